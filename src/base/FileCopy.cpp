@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "base/FileCopy.h"
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <QByteArray>
+#include <QFile>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast {
+
+namespace {
+
+    class Descriptor {
+    public:
+        explicit Descriptor(int fd)
+            : iFd(fd)
+        {
+        }
+        Descriptor(const Descriptor&) = delete;
+        Descriptor& operator=(const Descriptor&) = delete;
+        ~Descriptor() { close(); }
+
+        int get() const { return iFd; }
+        bool isOpen() const { return iFd >= 0; }
+        bool close() { return iFd < 0 || ::close(std::exchange(iFd, -1)) == 0; }
+
+    private:
+        int iFd;
+    };
+
+    bool writeAll(int fd, const char* bytes, ssize_t size)
+    {
+        while (size > 0) {
+            const ssize_t written = write(fd, bytes, static_cast<size_t>(size));
+            if (written < 0 && errno != EINTR)
+                return false;
+            if (written > 0) {
+                bytes += written;
+                size -= written;
+            }
+        }
+        return true;
+    }
+
+    bool copyThroughMemory(int from, int to)
+    {
+        std::array<char, 1 << 16> buffer;
+        for (;;) {
+            const ssize_t got = ::read(from, buffer.data(), buffer.size());
+            if (got == 0)
+                return true;
+            if (got < 0 && errno != EINTR)
+                return false;
+            if (got > 0 && !writeAll(to, buffer.data(), got))
+                return false;
+        }
+    }
+
+    bool copyContent(int from, int to)
+    {
+        if (ioctl(to, FICLONE, from) == 0)
+            return true;
+        constexpr size_t chunk = 1 << 30;
+        for (;;) {
+            const ssize_t copied = copy_file_range(from, nullptr, to, nullptr, chunk, 0);
+            if (copied == 0)
+                return true;
+            if (copied < 0
+                && (errno == EXDEV || errno == ENOSYS || errno == EINVAL || errno == EOPNOTSUPP))
+                return copyThroughMemory(from, to);
+            if (copied < 0 && errno != EINTR)
+                return false;
+        }
+    }
+
+    bool copyAttributes(const struct stat& from, int to)
+    {
+        constexpr mode_t permissions = 0777;
+        const std::array<timespec, 2> times{ from.st_atim, from.st_mtim };
+        return fchmod(to, from.st_mode & permissions) == 0 && futimens(to, times.data()) == 0;
+    }
+
+    bool moveIntoPlace(const char* from, const char* to, FileCopy::WhenTaken whenTaken)
+    {
+        if (whenTaken == FileCopy::WhenTaken::Replace)
+            return rename(from, to) == 0;
+        if (renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0)
+            return true;
+        // Some file systems have no such rename; a hard link refuses a taken name just as well.
+        return errno == EINVAL && link(from, to) == 0 && unlink(from) == 0;
+    }
+
+} // namespace
+
+bool FileCopy::fail(const char* step) const
+{
+    iError = u"%1: %2"_s.arg(QLatin1StringView(step), QString::fromLocal8Bit(std::strerror(errno)));
+    return false;
+}
+
+bool FileCopy::placeAt(const QString& destination, WhenTaken whenTaken) const
+{
+    const Descriptor from(
+        open(QFile::encodeName(iSource).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status { };
+    if (!from.isOpen() || fstat(from.get(), &status) != 0)
+        return fail("open");
+    if (!S_ISREG(status.st_mode)) {
+        iError = u"it is not a regular file"_s;
+        return false;
+    }
+
+    const QByteArray target = QFile::encodeName(destination);
+    QByteArray temporary = target.left(target.lastIndexOf('/') + 1) + ".leafcast-XXXXXX";
+    Descriptor to(mkostemp(temporary.data(), O_CLOEXEC));
+    if (!to.isOpen())
+        return fail("create");
+    if (copyContent(from.get(), to.get()) && copyAttributes(status, to.get()) && to.close()
+        && moveIntoPlace(temporary.constData(), target.constData(), whenTaken))
+        return true;
+    fail("copy");
+    unlink(temporary.constData());
+    return false;
+}
+
+} // namespace leafcast

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "base/Log.h"
+
+#include <log4cplus/logger.h>
+#include <log4cplus/nullappender.h>
+
+#include <mutex>
+
+namespace leafcast {
+
+namespace {
+
+    // log4cplus complains on standard error about a logger without an appender.
+    void silenceUnconfiguredLog()
+    {
+        static std::once_flag once;
+        std::call_once(once, [] {
+            log4cplus::Logger root = log4cplus::Logger::getRoot();
+            if (root.getAllAppenders().empty())
+                root.addAppender(log4cplus::SharedAppenderPtr(new log4cplus::NullAppender));
+        });
+    }
+
+    log4cplus::LogLevel toLog4cplus(LogLevel level)
+    {
+        switch (level) {
+        case LogLevel::Debug:
+            return log4cplus::DEBUG_LOG_LEVEL;
+        case LogLevel::Info:
+            return log4cplus::INFO_LOG_LEVEL;
+        case LogLevel::Warn:
+            return log4cplus::WARN_LOG_LEVEL;
+        case LogLevel::Error:
+            break;
+        }
+        return log4cplus::ERROR_LOG_LEVEL;
+    }
+
+    log4cplus::Logger loggerFor(const char* className)
+    {
+        silenceUnconfiguredLog();
+        return log4cplus::Logger::getInstance(className);
+    }
+
+} // namespace
+
+bool Log::isEnabled(const char* className, LogLevel level)
+{
+    return loggerFor(className).isEnabledFor(toLog4cplus(level));
+}
+
+void Log::write(const char* className, LogLevel level, const QString& message, const char* file,
+    int line, const char* method)
+{
+    loggerFor(className).log(toLog4cplus(level), message.toStdString(), file, line, method);
+}
+
+} // namespace leafcast

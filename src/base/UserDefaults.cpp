@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "base/UserDefaults.h"
+
+#include "base/FileSteps.h"
+#include "base/Log.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QLockFile>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast {
+
+namespace {
+
+    constexpr int lockWaitMilliseconds = 5000;
+
+    QString unusedNameBeside(const QString& path)
+    {
+        for (int i = 1;; ++i) {
+            const QString candidate = u"%1.damaged-%2"_s.arg(path).arg(i);
+            if (!FileSteps::exists(candidate))
+                return candidate;
+        }
+    }
+
+} // namespace
+
+UserDefaults::UserDefaults(const QString& filePath)
+    : iFilePath(filePath)
+    , iValues(readFile())
+{
+}
+
+UserDefaults& UserDefaults::standard()
+{
+    static UserDefaults defaults(
+        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+        + u"/leafcast/defaults.json"_s);
+    return defaults;
+}
+
+QJsonValue UserDefaults::objectForKey(const QString& key) const
+{
+    const std::lock_guard guard(iMutex);
+    const auto found = iValues.constFind(key);
+    return found == iValues.constEnd() ? QJsonValue(QJsonValue::Undefined) : *found;
+}
+
+void UserDefaults::setObject(const QString& key, const QJsonValue& value)
+{
+    const std::lock_guard guard(iMutex);
+    iValues.insert(key, value);
+    iChangedKeys.insert(key);
+}
+
+void UserDefaults::synchronize()
+{
+    const std::lock_guard guard(iMutex);
+    if (!FileSteps::makeFolders(QFileInfo(iFilePath).path()))
+        return;
+    QLockFile otherProcesses(iFilePath + u".lock"_s);
+    if (!otherProcesses.tryLock(lockWaitMilliseconds)) {
+        LOG_WARN("UserDefaults", u"can't save %1: another process holds its lock"_s.arg(iFilePath));
+        return;
+    }
+    QJsonObject merged = readFile();
+    for (const QString& key : std::as_const(iChangedKeys))
+        merged.insert(key, iValues.value(key));
+    iValues = merged;
+    if (FileSteps::writeAtomically(iFilePath, QJsonDocument(merged).toJson()))
+        iChangedKeys.clear();
+}
+
+QJsonObject UserDefaults::readFile() const
+{
+    if (!FileSteps::exists(iFilePath))
+        return {};
+    const auto bytes = FileSteps::read(iFilePath);
+    if (!bytes)
+        return {};
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(*bytes, &error);
+    if (document.isObject())
+        return document.object();
+    setAsideDamagedFile(error.error ? error.errorString() : u"it holds no object"_s);
+    return {};
+}
+
+void UserDefaults::setAsideDamagedFile(const QString& why) const
+{
+    const QString asideName = unusedNameBeside(iFilePath);
+    const bool moved = QFile::rename(iFilePath, asideName);
+    LOG_WARN("UserDefaults",
+        u"%1 is damaged (%2); %3"_s.arg(iFilePath, why,
+            moved ? u"set aside as "_s + asideName : u"it could not be set aside"_s));
+}
+
+} // namespace leafcast
