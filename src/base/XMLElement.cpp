@@ -36,7 +36,10 @@ namespace {
 
     std::shared_ptr<xmlDoc> newDocument()
     {
-        return { xmlNewDoc(toXML("1.0")), xmlFreeDoc };
+        std::shared_ptr<xmlDoc> document(xmlNewDoc(toXML("1.0")), xmlFreeDoc);
+        // Without it characters beyond ASCII are written as references.
+        document->encoding = xmlStrdup(toXML("UTF-8"));
+        return document;
     }
 
     bool isElementNamed(const xmlNode* node, const QByteArray& name)

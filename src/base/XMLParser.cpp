@@ -28,6 +28,13 @@ namespace {
         return { QString::fromUtf8(error.message).trimmed(), error.line };
     }
 
+    // The tree writes itself in UTF-8, whatever it was read from.
+    void forgetEncodingOfInput(xmlDoc* document)
+    {
+        xmlFree(const_cast<xmlChar*>(document->encoding));
+        document->encoding = xmlStrdup(reinterpret_cast<const xmlChar*>("UTF-8"));
+    }
+
     bool declaresEntities(const xmlDoc* document)
     {
         return document->intSubset && document->intSubset->entities;
@@ -55,6 +62,7 @@ std::optional<XMLElement> XMLParser::parse(const QByteArray& text, Mode mode)
         iError = { u"it declares entities of its own"_s, 0 };
         return std::nullopt;
     }
+    forgetEncodingOfInput(document.get());
     return XMLElement(std::move(document), root);
 }
 

@@ -1,0 +1,52 @@
+# SPDX-License-Identifier: MIT
+# The front door. Each target sets up what it needs first; a second run finds it there.
+SHELL := /bin/bash
+.DEFAULT_GOAL := help
+.PHONY: help demo test asan bench lint format install clean
+
+DEMO_BOOK := build/demo-book
+PREFIX ?= /usr/local
+
+help: ## Show the targets
+	@awk -F ':.*## ' '/^[a-z]+:.*## / { printf "  make %-8s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
+
+demo: ## Set up, build, and turn the sample PDF into a book
+	@tools/setup build
+	@tools/build release
+	@build/release/bin/leafcast publish samples/magazine.pdf $(DEMO_BOOK) --force
+	@echo
+	@echo "The book lies in $(CURDIR)/$(DEMO_BOOK)."
+	@echo "Look at it: open $(CURDIR)/$(DEMO_BOOK)/index.html in a browser,"
+	@echo "or: xdg-open $(DEMO_BOOK)/index.html"
+
+test: ## Set up, build and run every test
+	@tools/setup test
+	@tools/build dev
+	@ctest --preset dev --parallel $$(nproc)
+	@LEAFCAST=$(CURDIR)/build/dev/bin/leafcast npm test --silent
+
+asan: ## Run the unit tests under the address and undefined behaviour sanitizers
+	@tools/setup test
+	@tools/build asan
+	@ctest --preset asan --parallel $$(nproc)
+
+bench: ## Measure speed, memory and size beside other programs
+	@tools/setup bench
+	@tools/build release
+	@bench/run
+
+lint: ## Check formatting, includes and clang-tidy on changed files
+	@tools/setup lint
+	@tools/lint
+
+format: ## Format the changed files
+	@tools/setup lint
+	@tools/changed-sources | xargs -r clang-format -i
+
+install: ## Install the release build (PREFIX, DESTDIR)
+	@tools/setup build
+	@tools/build release
+	@DESTDIR="$(DESTDIR)" cmake --install build/release --prefix "$(PREFIX)"
+
+clean: ## Remove everything that was built
+	@rm -rf build

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "base/FileSteps.h"
+
+#include "support/LogCapture.h"
+#include "support/TestFiles.h"
+
+#include <fcntl.h>
+#include <QDateTime>
+#include <QTemporaryDir>
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+using namespace leafcast;
+
+class FileStepsTest : public testing::Test {
+protected:
+    QString at(const QString& name) const { return iFolder.filePath(name); }
+
+    static ino_t inode(const QString& path)
+    {
+        struct stat status { };
+        EXPECT_EQ(stat(QFile::encodeName(path).constData(), &status), 0);
+        return status.st_ino;
+    }
+
+    QTemporaryDir iFolder;
+    LogCapture iLog;
+};
+
+TEST_F(FileStepsTest, ACopyKeepsBytesTimeAndPermissions)
+{
+    const QString source = writeTestFile(at(u"a"_s), "page");
+    const timespec times[2] = { { 1000000, 0 }, { 1234567, 890000000 } };
+    ASSERT_EQ(utimensat(AT_FDCWD, QFile::encodeName(source).constData(), times, 0), 0);
+    ASSERT_TRUE(QFile::setPermissions(source, QFile::ReadOwner | QFile::ExeOwner));
+
+    ASSERT_TRUE(FileSteps::copyFile(source, at(u"b"_s)));
+
+    EXPECT_EQ(readTestFile(at(u"b"_s)), "page");
+    EXPECT_EQ(QFileInfo(at(u"b"_s)).lastModified(), QFileInfo(source).lastModified());
+    EXPECT_TRUE(QFileInfo(at(u"b"_s)).isExecutable());
+}
+
+TEST_F(FileStepsTest, ACopyOntoSomethingFailsWithOneLogLineAndLeavesIt)
+{
+    writeTestFile(at(u"a"_s), "new");
+    writeTestFile(at(u"b"_s), "old");
+
+    EXPECT_FALSE(FileSteps::copyFile(at(u"a"_s), at(u"b"_s)));
+
+    EXPECT_EQ(readTestFile(at(u"b"_s)), "old");
+    ASSERT_EQ(iLog.lines().size(), 1);
+    EXPECT_TRUE(iLog.lines().first().contains(at(u"b"_s)));
+    EXPECT_EQ(QDir(iFolder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+}
+
+TEST_F(FileStepsTest, ReplacingLeavesAnUnchangedFileAlone)
+{
+    writeTestFile(at(u"a"_s), "page");
+    ASSERT_TRUE(FileSteps::replaceFile(at(u"a"_s), at(u"b"_s)));
+    const ino_t before = inode(at(u"b"_s));
+
+    ASSERT_TRUE(FileSteps::replaceFile(at(u"a"_s), at(u"b"_s)));
+    EXPECT_EQ(inode(at(u"b"_s)), before);
+
+    writeTestFile(at(u"a"_s), "other");
+    ASSERT_TRUE(FileSteps::replaceFile(at(u"a"_s), at(u"b"_s)));
+    EXPECT_EQ(readTestFile(at(u"b"_s)), "other");
+}
+
+TEST_F(FileStepsTest, ReplacingFromNothingRemovesTheOldFile)
+{
+    writeTestFile(at(u"b"_s), "old");
+    EXPECT_FALSE(FileSteps::replaceFile(at(u"missing"_s), at(u"b"_s)));
+    EXPECT_FALSE(FileSteps::exists(at(u"b"_s)));
+    EXPECT_EQ(iLog.lines().size(), 1);
+}
+
+TEST_F(FileStepsTest, ReplacingSwapsFoldersAndLinksForTheFile)
+{
+    writeTestFile(at(u"a"_s), "page");
+    writeTestFile(at(u"folder/inside"_s), "x");
+    writeTestFile(at(u"elsewhere"_s), "kept");
+    QFile::link(at(u"elsewhere"_s), at(u"link"_s));
+
+    EXPECT_TRUE(FileSteps::replaceFile(at(u"a"_s), at(u"folder"_s)));
+    EXPECT_TRUE(FileSteps::replaceFile(at(u"a"_s), at(u"link"_s)));
+
+    EXPECT_EQ(readTestFile(at(u"folder"_s)), "page");
+    EXPECT_EQ(readTestFile(at(u"link"_s)), "page");
+    EXPECT_EQ(readTestFile(at(u"elsewhere"_s)), "kept");
+}
+
+TEST_F(FileStepsTest, AFolderCopyHoldsFilesAndFoldersButNoLinks)
+{
+    writeTestFile(at(u"a/.hidden/deep"_s), "1");
+    writeTestFile(at(u"target"_s), "2");
+    QFile::link(at(u"target"_s), at(u"a/link"_s));
+    ASSERT_EQ(mkfifo(QFile::encodeName(at(u"a/pipe"_s)).constData(), 0600), 0);
+
+    FileSteps::copyFolder(at(u"a"_s), at(u"b"_s));
+
+    EXPECT_EQ(readTestFile(at(u"b/.hidden/deep"_s)), "1");
+    EXPECT_EQ(readTestFile(at(u"b/link"_s)), "2");
+    EXPECT_FALSE(QFileInfo(at(u"b/link"_s)).isSymLink());
+    EXPECT_FALSE(FileSteps::exists(at(u"b/pipe"_s)));
+}
+
+TEST_F(FileStepsTest, RemovingTakesALinkButNotItsTarget)
+{
+    writeTestFile(at(u"kept/file"_s), "x");
+    QFile::link(at(u"kept"_s), at(u"link"_s));
+    EXPECT_TRUE(FileSteps::remove(at(u"link"_s)));
+    EXPECT_TRUE(FileSteps::exists(at(u"kept/file"_s)));
+    EXPECT_FALSE(FileSteps::exists(at(u"link"_s)));
+    EXPECT_TRUE(FileSteps::remove(at(u"never there"_s)));
+}
+
+TEST_F(FileStepsTest, FailuresAreToldAndLogged)
+{
+    writeTestFile(at(u"file"_s), "x");
+    EXPECT_FALSE(FileSteps::makeFolders(at(u"file/below"_s)));
+    EXPECT_FALSE(FileSteps::writeAtomically(at(u"missing/file"_s), "x"));
+    EXPECT_FALSE(FileSteps::read(at(u"missing"_s)).has_value());
+    EXPECT_FALSE(FileSteps::copyFolder(at(u"file"_s), at(u"copy"_s)));
+    EXPECT_EQ(iLog.lines().size(), 4);
+}
