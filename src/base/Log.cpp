@@ -15,9 +15,8 @@ namespace {
     {
         static std::once_flag once;
         std::call_once(once, [] {
-            log4cplus::Logger root = log4cplus::Logger::getRoot();
-            if (root.getAllAppenders().empty())
-                root.addAppender(log4cplus::SharedAppenderPtr(new log4cplus::NullAppender));
+            log4cplus::Logger::getRoot().addAppender(
+                log4cplus::SharedAppenderPtr(new log4cplus::NullAppender));
         });
     }
 
