@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "pages/PageRange.h"
+
+#include "base/IntegerText.h"
+#include "base/NamedException.h"
+
+#include <algorithm>
+#include <numeric>
+#include <QStringTokenizer>
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast::PageRange {
+
+namespace {
+
+    void appendNumbers(std::vector<qint32>& numbers, qint32 first, qint32 last)
+    {
+        if (first > last)
+            return;
+        const qint64 count = qint64{ last } - first + 1;
+        const auto former = static_cast<qint64>(numbers.size());
+        if (former + count > mostNumbers)
+            throw NamedException(u"ERROR_PAGE_RANGE_TOO_LONG"_s,
+                u"the page range names more than %1 pages"_s.arg(mostNumbers));
+        numbers.resize(static_cast<size_t>(former + count));
+        std::iota(numbers.begin() + former, numbers.end(), first);
+    }
+
+    /// Parts after the second are ignored: "1-3-9" is 1 to 3.
+    void appendPiece(std::vector<qint32>& numbers, QStringView piece)
+    {
+        const qsizetype dash = piece.indexOf(u'-');
+        if (dash < 0)
+            return appendNumbers(numbers, integerValue(piece), integerValue(piece));
+        const QStringView rest = piece.sliced(dash + 1);
+        const qsizetype secondDash = rest.indexOf(u'-');
+        const QStringView last = secondDash < 0 ? rest : rest.first(secondDash);
+        appendNumbers(numbers, integerValue(piece.first(dash)), integerValue(last));
+    }
+
+} // namespace
+
+bool isAll(const QString& range)
+{
+    return range.toUpper() == u"ALL"_s;
+}
+
+std::vector<qint32> parse(const QString& range, qint32 totalPage)
+{
+    std::vector<qint32> numbers;
+    if (isAll(range)) {
+        appendNumbers(numbers, 1, totalPage);
+        return numbers;
+    }
+    for (const QStringView piece : QStringTokenizer(range, u','))
+        appendPiece(numbers, piece);
+    std::sort(numbers.begin(), numbers.end());
+    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+    return numbers;
+}
+
+} // namespace leafcast::PageRange
