@@ -67,6 +67,11 @@ QString XMLElement::name() const
     return fromXML(iNode->name);
 }
 
+int XMLElement::line() const
+{
+    return static_cast<int>(xmlGetLineNo(iNode));
+}
+
 QString XMLElement::stringValue() const
 {
     const XMLText text(xmlNodeGetContent(iNode), xmlFree);
