@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+namespace leafcast::service {
+
+/// What this process may use. Applied once, before the first byte of a document is read.
+struct Limits {
+    int memoryMebibytes = 1024; // address space
+    int pageSeconds = 30; // processor time of one request
+
+    void apply() const;
+};
+
+/// While it lives, the process ends itself when the request it stands for has used up its processor
+/// time, or when the process that started this one has died. A second line of defence: the client
+/// kills a worker from outside, but a client that was itself killed can't.
+class RequestWatch {
+public:
+    explicit RequestWatch(int seconds);
+    ~RequestWatch();
+    RequestWatch(const RequestWatch&) = delete;
+    RequestWatch& operator=(const RequestWatch&) = delete;
+};
+
+/// Called when a document has been opened and before anything of it is interpreted: the place where
+/// a sandbox closes the file system and the network. Files are opened by the worker itself only
+/// here and for the pictures.
+void enterSandbox();
+
+} // namespace leafcast::service
