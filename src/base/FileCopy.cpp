@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/FileCopy.h"
 
+#include "base/FileDescriptor.h"
+
 #include <array>
 #include <cerrno>
 #include <cstring>
@@ -11,31 +13,12 @@
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace leafcast {
 
 namespace {
-
-    class Descriptor {
-    public:
-        explicit Descriptor(int fd)
-            : iFd(fd)
-        {
-        }
-        Descriptor(const Descriptor&) = delete;
-        Descriptor& operator=(const Descriptor&) = delete;
-        ~Descriptor() { close(); }
-
-        int get() const { return iFd; }
-        bool isOpen() const { return iFd >= 0; }
-        bool close() { return iFd < 0 || ::close(std::exchange(iFd, -1)) == 0; }
-
-    private:
-        int iFd;
-    };
 
     bool writeAll(int fd, const char* bytes, ssize_t size)
     {
@@ -109,7 +92,7 @@ bool FileCopy::fail(const char* step) const
 
 bool FileCopy::placeAt(const QString& destination, WhenTaken whenTaken) const
 {
-    const Descriptor from(
+    const FileDescriptor from(
         open(QFile::encodeName(iSource).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status { };
     if (!from.isOpen() || fstat(from.get(), &status) != 0)
@@ -121,7 +104,7 @@ bool FileCopy::placeAt(const QString& destination, WhenTaken whenTaken) const
 
     const QByteArray target = QFile::encodeName(destination);
     QByteArray temporary = target.left(target.lastIndexOf('/') + 1) + ".leafcast-XXXXXX";
-    Descriptor to(mkostemp(temporary.data(), O_CLOEXEC));
+    FileDescriptor to(mkostemp(temporary.data(), O_CLOEXEC));
     if (!to.isOpen())
         return fail("create");
     if (copyContent(from.get(), to.get()) && copyAttributes(status, to.get()) && to.close()
