@@ -17,11 +17,11 @@ struct PDFDestination {
 /// One annotation of a page, as the file has it.
 struct PDFAnnotation {
     /// Subtype without the slash: "Link", "Text", "Widget".
-    QString type;
-    PDFRect bounds;
+    QString type{};
+    PDFRect bounds{};
     /// Absolute URL of a link to the web; none otherwise.
-    std::optional<QString> URL;
-    std::optional<PDFDestination> destination;
+    std::optional<QString> URL{};
+    std::optional<PDFDestination> destination{};
 };
 
 } // namespace leafcast

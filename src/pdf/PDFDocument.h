@@ -29,15 +29,15 @@ enum class PDFOpenError {
 class PDFDocument {
 public:
     struct Source {
-        QString path;
-        QString password;
-        PDFServiceLimits limits;
+        QString path{};
+        QString password{};
+        PDFServiceLimits limits{};
     };
 
     struct OpenResult {
         std::shared_ptr<PDFDocument> document; // none when error is set
         PDFOpenError error = PDFOpenError::None;
-        QString reason; // a clause for people, such as "it is not a PDF"
+        QString reason{}; // a clause for people, such as "it is not a PDF"
     };
 
     [[nodiscard]] static OpenResult open(const Source& source);

@@ -20,7 +20,7 @@ JPEGSettings jpegSettings(double compressionFactor);
 
 struct RenderedPage {
     bool written = false;
-    QString problem; // why not, a clause for people
+    QString problem{}; // why not, a clause for people
     int width = 0; // pixels
     int height = 0;
     qint64 bytes = 0;
@@ -36,8 +36,8 @@ class PDFImageRep {
 public:
     struct Options {
         double scale = 2.0; // pixels a point
-        JPEGSettings jpeg;
-        QString workFolder; // where pictures drawn ahead wait
+        JPEGSettings jpeg{};
+        QString workFolder{}; // where pictures drawn ahead wait
         int workers = 0; // 0: one a processor core
     };
 

@@ -11,9 +11,9 @@ namespace leafcast {
 /// One node of the document's bookmark tree; the root has no label. At most 100 levels deep: what
 /// lies deeper in the file hangs at the last level.
 struct PDFOutline {
-    QString label;
-    PDFDestination destination;
-    std::vector<PDFOutline> children;
+    QString label{};
+    PDFDestination destination{};
+    std::vector<PDFOutline> children{};
 
     int numberOfChildren() const { return static_cast<int>(children.size()); }
     const PDFOutline& childAtIndex(int index) const

@@ -10,8 +10,8 @@ namespace leafcast {
 
 /// One line of a page's text in reading order: words separated by one blank, one box a word.
 struct PDFTextLine {
-    QString text;
-    std::vector<PageFraction> boxes;
+    QString text{};
+    std::vector<PageFraction> boxes{};
 };
 
 } // namespace leafcast

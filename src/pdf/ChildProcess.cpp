@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "pdf/ChildProcess.h"
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <fcntl.h>
+#include <QFile>
+#include <spawn.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast {
+
+namespace {
+
+    /// How the child starts: own process group, no signal blocked or ignored on our account.
+    class SpawnAttributes {
+    public:
+        SpawnAttributes()
+        {
+            posix_spawnattr_init(&iAttributes);
+            sigset_t signals;
+            sigemptyset(&signals);
+            posix_spawnattr_setsigmask(&iAttributes, &signals);
+            sigaddset(&signals, SIGPIPE);
+            sigaddset(&signals, SIGINT);
+            sigaddset(&signals, SIGTERM);
+            posix_spawnattr_setsigdefault(&iAttributes, &signals);
+            posix_spawnattr_setpgroup(&iAttributes, 0);
+            posix_spawnattr_setflags(&iAttributes,
+                POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+        }
+        SpawnAttributes(const SpawnAttributes&) = delete;
+        SpawnAttributes& operator=(const SpawnAttributes&) = delete;
+        ~SpawnAttributes() { posix_spawnattr_destroy(&iAttributes); }
+
+        const posix_spawnattr_t* get() const { return &iAttributes; }
+
+    private:
+        posix_spawnattr_t iAttributes{};
+    };
+
+    class StandardStreams {
+    public:
+        StandardStreams(int socket, int errors)
+        {
+            posix_spawn_file_actions_init(&iActions);
+            posix_spawn_file_actions_adddup2(&iActions, socket, STDIN_FILENO);
+            posix_spawn_file_actions_adddup2(&iActions, socket, STDOUT_FILENO);
+            posix_spawn_file_actions_adddup2(&iActions, errors, STDERR_FILENO);
+        }
+        StandardStreams(const StandardStreams&) = delete;
+        StandardStreams& operator=(const StandardStreams&) = delete;
+        ~StandardStreams() { posix_spawn_file_actions_destroy(&iActions); }
+
+        const posix_spawn_file_actions_t* get() const { return &iActions; }
+
+    private:
+        posix_spawn_file_actions_t iActions{};
+    };
+
+    QString errorText(int number)
+    {
+        return QString::fromLocal8Bit(std::strerror(number));
+    }
+
+} // namespace
+
+ChildProcess::~ChildProcess()
+{
+    end();
+}
+
+FileDescriptor ChildProcess::start(const QString& program, const QStringList& arguments)
+{
+    end();
+    std::array<int, 2> sockets{ -1, -1 };
+    std::array<int, 2> errors{ -1, -1 };
+    // A full pipe must not hold up the child: what it can't write there at once is lost.
+    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, sockets.data()) != 0
+        || pipe2(errors.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
+        iError = errorText(errno);
+        FileDescriptor(sockets[0]).close();
+        FileDescriptor(sockets[1]).close();
+        return {};
+    }
+    FileDescriptor ours(sockets[0]);
+    const FileDescriptor theirs(sockets[1]);
+    const FileDescriptor theirErrors(errors[1]);
+    iErrors = FileDescriptor(errors[0]);
+    return spawn(program, arguments, theirs.get(), theirErrors.get()) ? std::move(ours)
+                                                                      : FileDescriptor();
+}
+
+bool ChildProcess::spawn(
+    const QString& program, const QStringList& arguments, int socket, int errors)
+{
+    QByteArrayList words{ QFile::encodeName(program) };
+    for (const QString& argument : arguments)
+        words.append(argument.toLocal8Bit());
+    std::vector<char*> argv;
+    for (QByteArray& word : words)
+        argv.push_back(word.data());
+    argv.push_back(nullptr);
+
+    const SpawnAttributes attributes;
+    const StandardStreams streams(socket, errors);
+    const std::lock_guard lock(iMutex);
+    if (iStopped) {
+        iError = u"it was stopped"_s;
+        return false;
+    }
+    pid_t pid = 0;
+    const int failure
+        = posix_spawn(&pid, argv[0], streams.get(), attributes.get(), argv.data(), environ);
+    iError = failure == 0 ? QString() : errorText(failure);
+    iPid = failure == 0 ? pid : 0;
+    return failure == 0;
+}
+
+ChildProcess::Ending ChildProcess::end()
+{
+    const std::lock_guard lock(iMutex);
+    if (iPid == 0)
+        return {};
+    kill(-iPid, SIGKILL); // no effect on the status of one that is ending by itself
+    int status = 0;
+    while (waitpid(iPid, &status, 0) < 0 && errno == EINTR)
+        ;
+    iPid = 0;
+    return { .bySignal = WIFSIGNALED(status),
+        .code = WIFSIGNALED(status) ? WTERMSIG(status) : WEXITSTATUS(status),
+        .lastWords = lastWords() };
+}
+
+void ChildProcess::stop()
+{
+    const std::lock_guard lock(iMutex);
+    iStopped = true;
+    if (iPid != 0)
+        kill(-iPid, SIGKILL);
+}
+
+bool ChildProcess::isStopped() const
+{
+    const std::lock_guard lock(iMutex);
+    return iStopped;
+}
+
+QString ChildProcess::lastWords() const
+{
+    std::array<char, 500> bytes;
+    const ssize_t size = read(iErrors.get(), bytes.data(), bytes.size());
+    return size <= 0 ? QString()
+                     : QString::fromLocal8Bit(bytes.data(), size).section(u'\n', 0, 0).simplified();
+}
+
+} // namespace leafcast

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "pdf/PDFServiceProcess.h"
+
+#include "base/Log.h"
+#include "base/ResourceFolder.h"
+
+#include <QJsonDocument>
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast {
+
+namespace {
+
+    using Outcome = PDFServiceAnswer::Outcome;
+
+    PDFServiceAnswer failure(Outcome outcome, const QString& problem)
+    {
+        return { .outcome = outcome, .problem = problem };
+    }
+
+    PDFServiceAnswer notStarted(const QString& why)
+    {
+        return failure(Outcome::NotStarted, u"the PDF service could not be started: "_s + why);
+    }
+
+    PDFServiceAnswer stopped()
+    {
+        return failure(Outcome::Stopped, u"it was stopped"_s);
+    }
+
+    PDFServiceAnswer refusal(const QJsonObject& fields)
+    {
+        const QString message = fields["message"_L1].toString();
+        return { .outcome = Outcome::Refused,
+            .error = fields["error"_L1].toString(),
+            .problem = message.isEmpty() ? u"the PDF service could not read it"_s : message };
+    }
+
+} // namespace
+
+std::optional<PDFServiceAnswer> PDFServiceProcess::start(const PDFServiceLimits& limits)
+{
+    const QString program
+        = ResourceFolder::helperProgram(u"leafcast-pdf"_s, "LEAFCAST_PDF_SERVICE");
+    if (program.isEmpty())
+        return notStarted(u"the program leafcast-pdf is missing"_s);
+    iChannel = LineChannel(iChild.start(program,
+        { u"--memory-limit"_s, QString::number(limits.memoryMebibytes), u"--page-seconds"_s,
+            QString::number(limits.pageSeconds) }));
+    iStarter = std::this_thread::get_id();
+    iHasAnswered = false;
+    if (iChannel.isOpen())
+        return std::nullopt;
+    return iChild.isStopped() ? stopped() : notStarted(iChild.error());
+}
+
+bool PDFServiceProcess::isReady() const
+{
+    return iStarter == std::this_thread::get_id() && iChannel.isIdle();
+}
+
+PDFServiceAnswer PDFServiceProcess::ask(const QJsonObject& request, std::chrono::seconds limit)
+{
+    const LineChannel::Deadline deadline = std::chrono::steady_clock::now() + limit;
+    QJsonObject numbered = request;
+    numbered["id"_L1] = ++iRequestId;
+    QByteArray line = QJsonDocument(numbered).toJson(QJsonDocument::Compact);
+    LineChannel::Result result = iChannel.send(line, deadline);
+    if (result == LineChannel::Result::Done)
+        result = iChannel.receive(line, deadline);
+    if (result != LineChannel::Result::Done)
+        return failed(result, limit);
+    iHasAnswered = true;
+    if (std::optional<PDFServiceAnswer> answer = parsed(line))
+        return std::move(*answer);
+    return failed(LineChannel::Result::TooLong, limit);
+}
+
+std::optional<PDFServiceAnswer> PDFServiceProcess::parsed(const QByteArray& line) const
+{
+    const QJsonObject fields = QJsonDocument::fromJson(line).object();
+    if (fields["id"_L1].toInteger(-1) != iRequestId)
+        return std::nullopt;
+    if (fields.contains("error"_L1))
+        return refusal(fields);
+    return PDFServiceAnswer{ .outcome = Outcome::Answered, .fields = fields };
+}
+
+PDFServiceAnswer PDFServiceProcess::failed(LineChannel::Result result, std::chrono::seconds limit)
+{
+    iChannel = LineChannel();
+    if (result == LineChannel::Result::Closed)
+        return died();
+    iChild.end();
+    if (result == LineChannel::Result::TimedOut)
+        return failure(Outcome::TimedOut, u"it took longer than %1 seconds"_s.arg(limit.count()));
+    return failure(Outcome::Died, u"the PDF service gave an answer that makes no sense"_s);
+}
+
+PDFServiceAnswer PDFServiceProcess::died()
+{
+    const ChildProcess::Ending ending = iChild.end();
+    if (iChild.isStopped())
+        return stopped();
+    const QString how
+        = ending.bySignal ? u"signal %1"_s.arg(ending.code) : u"exit status %1"_s.arg(ending.code);
+    if (!iHasAnswered && !ending.bySignal && !ending.lastWords.isEmpty())
+        return notStarted(ending.lastWords);
+    if (!ending.lastWords.isEmpty())
+        LOG_DEBUG("PDFServiceProcess", ending.lastWords);
+    return failure(Outcome::Died, u"the PDF service crashed over it (%1)"_s.arg(how));
+}
+
+} // namespace leafcast
