@@ -51,7 +51,7 @@ export function mosaicLeaf() {
   };
   const fields = many(rows, (row) => many(2 * columns, (column) => field(row, column - columns)));
   return svg(840, 1120, `<rect width="840" height="1120" fill="#1b2b25"/>
-    ${at(566, 968, `${fields}<path d="M0 70Q6 34 0 0V-975" fill="none" stroke="#1b2b25" stroke-width="9"/><path d="M4 80Q8 34 0 0V-930" fill="none" stroke="#e0ac39" stroke-width="3.5" stroke-linecap="round"/>`, { turn: 6, scale: 0.9 })}`);
+    ${at(552, 968, `${fields}<path d="M0 70Q6 34 0 0V-975" fill="none" stroke="#1b2b25" stroke-width="9"/><path d="M4 80Q8 34 0 0V-930" fill="none" stroke="#e0ac39" stroke-width="3.5" stroke-linecap="round"/>`, { turn: 6, scale: 0.9 })}`);
 }
 
 const grey = (value) => '#' + Math.round(value).toString(16).padStart(2, '0').repeat(3);
