@@ -7,8 +7,8 @@
 #include <QString>
 #include <vector>
 
-struct _xmlDoc;
-struct _xmlNode;
+struct _xmlDoc; // NOLINT(bugprone-reserved-identifier): libxml2 names it so
+struct _xmlNode; // NOLINT(bugprone-reserved-identifier)
 
 namespace leafcast {
 
