@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "pdf/PDFServiceLimits.h"
+
+#include <QString>
+
+namespace leafcast {
+
+/// How a PDF is opened and drawn, beside what the user chooses of it.
+struct PDFImportOptions {
+    QString password{};
+    PDFServiceLimits limits{};
+    int workers = 0; // of the PDF service; 0: one a processor core
+};
+
+} // namespace leafcast
