@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include "links/FlashPagesAnnotationsPDF.h"
+
+#include "base/Log.h"
+#include "links/LinkLocation.h"
+#include "pages/FlashPageSource.h"
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast {
+
+namespace {
+
+    const auto linkClass = u"com.vexmoor.flipbook.pageeditor.TAnnoLink"_s;
+    const auto openURLClass = u"com.vexmoor.flipbook.pageeditor.TAnnoActionOpenURL"_s;
+    const auto goToPageClass = u"com.vexmoor.flipbook.pageeditor.TAnnoActionGotoPage"_s;
+
+    QString described(const PDFRect& rect)
+    {
+        return u"{{%1, %2}, {%3, %4}}"_s.arg(rect.x).arg(rect.y).arg(rect.width).arg(rect.height);
+    }
+
+    void logAnnotation(size_t index, const PDFAnnotation& annotation)
+    {
+        const auto& destination = annotation.destination;
+        LOG_DEBUG("FlashPagesAnnotationsPDF",
+            u"%1:%2,%3,d:%4,url:%5"_s.arg(QString::number(index), annotation.type,
+                described(annotation.bounds),
+                destination ? u"page %1"_s.arg(destination->pageIndex + 1) : u"(null)"_s,
+                annotation.URL.value_or(u"(null)"_s)));
+    }
+
+    bool isFollowed(const PDFAnnotation& annotation)
+    {
+        return annotation.type == u"Link"_s && (annotation.URL || annotation.destination);
+    }
+
+    void appendAction(XMLElement record, const PDFAnnotation& link)
+    {
+        XMLElement action = record.addChild(u"action"_s);
+        action.addAttribute(u"triggerEventType"_s, u"mouseDown"_s);
+        action.addAttribute(u"actionType"_s, link.URL ? openURLClass : goToPageClass);
+        if (link.URL)
+            action.addChild(u"url"_s).setStringValue(*link.URL);
+        else
+            action.addChild(u"pageIndex"_s)
+                .setStringValue(QString::number(link.destination->pageIndex + 1));
+    }
+
+    void appendLocation(XMLElement record, const LinkLocation& location)
+    {
+        XMLElement node = record.addChild(u"location"_s);
+        node.addAttribute(u"x"_s, LinkLocation::text(location.x));
+        node.addAttribute(u"y"_s, LinkLocation::text(location.y));
+        node.addAttribute(u"width"_s, LinkLocation::text(location.width));
+        node.addAttribute(u"height"_s, LinkLocation::text(location.height));
+    }
+
+    void appendRecord(XMLElement& pageNode, const PDFAnnotation& link, const PDFPage& page)
+    {
+        XMLElement record = pageNode.addChild(u"anno"_s);
+        record.addAttribute(u"annotype"_s, linkClass);
+        appendAction(record, link);
+        appendLocation(record,
+            LinkLocation::of(link.bounds, page.boundsForBox(PDFBox::CropBox), page.rotation()));
+    }
+
+} // namespace
+
+void FlashPagesAnnotationsPDF::loadLinksFromPDF(
+    std::shared_ptr<const PDFDocument> document, const QString& pageRange)
+{
+    setPdfDoc(std::move(document));
+    iNeedToImportPages
+        = FlashPageSource::parsePageRange(pageRange, iPDFDoc ? iPDFDoc->pageCount() : 0);
+    iCurrentIndex = 0;
+    needFiles().clear();
+    setPagesAnnotationsNode(XMLElement(u"pagesAnnos"_s));
+    for (; iCurrentIndex < static_cast<qint32>(iNeedToImportPages.size()); ++iCurrentIndex)
+        parsePage();
+}
+
+void FlashPagesAnnotationsPDF::parsePage()
+{
+    const qint32 number = iNeedToImportPages.at(static_cast<size_t>(iCurrentIndex));
+    LOG_DEBUG("FlashPagesAnnotationsPDF", u"page is:%1"_s.arg(number));
+    XMLElement root = pagesAnnotationsNode().value();
+    XMLElement pageNode = root.addChild(u"pageAnnos"_s);
+    pageNode.addAttribute(u"pageIndex"_s, QString::number(iCurrentIndex + 1));
+
+    const bool isInDocument = iPDFDoc && number >= 1 && number <= iPDFDoc->pageCount();
+    const auto page = isInDocument ? iPDFDoc->pageAtIndex(number - 1) : std::nullopt;
+    if (page)
+        appendRecords(pageNode, *page);
+}
+
+void FlashPagesAnnotationsPDF::appendRecords(XMLElement pageNode, const PDFPage& page) const
+{
+    const auto annotations = iPDFDoc->annotationsOfPage(page.index());
+    if (annotations.empty())
+        return;
+    LOG_DEBUG("FlashPagesAnnotationsPDF", u"count is:%1"_s.arg(annotations.size()));
+    for (size_t i = 0; i < annotations.size(); ++i) {
+        logAnnotation(i, annotations[i]);
+        if (isFollowed(annotations[i]))
+            appendRecord(pageNode, annotations[i], page);
+    }
+}
+
+} // namespace leafcast
