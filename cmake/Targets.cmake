@@ -23,6 +23,8 @@ function(leafcast_test name)
   gtest_discover_tests(${name}_test
     TEST_PREFIX "${name}/"
     DISCOVERY_MODE PRE_TEST
-    PROPERTIES ENVIRONMENT
-      "LEAFCAST_RESOURCES=${PROJECT_BINARY_DIR}/share/leafcast;LEAFCAST_PDF_SERVICE=${PROJECT_BINARY_DIR}/bin/leafcast-pdf")
+    # One variable a property: a list in one of them does not survive the discovery.
+    PROPERTIES
+      ENVIRONMENT "LEAFCAST_RESOURCES=${PROJECT_BINARY_DIR}/share/leafcast"
+      ENVIRONMENT_MODIFICATION "LEAFCAST_PDF_SERVICE=set:${PROJECT_BINARY_DIR}/bin/leafcast-pdf")
 endfunction()
