@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: MIT
+import assert from 'node:assert/strict';
+import { after, before, describe, it } from 'node:test';
+import { launchBrowser } from '../../tools/browser.mjs';
+import { changedBook, openBook, publishMagazine, removeBook, scriptWith } from './support.mjs';
+
+const position = (page) => page.locator('#position').textContent();
+
+// The pictures of the pages in sight, by file name, once all of them have been drawn.
+async function drawnPages(page) {
+  await page.waitForFunction(() =>
+    [...document.querySelectorAll('.page img')].every((image) => image.complete && image.naturalWidth > 0));
+  const sources = await page.locator('.page img').evaluateAll((images) => images.map((image) => image.src));
+  return sources.map((source) => Number(/(\d+)\.jpg$/.exec(source)[1]));
+}
+
+describe('a published book', () => {
+  let browser, book;
+  const copies = [];
+
+  before(async () => {
+    book = publishMagazine();
+    browser = await launchBrowser();
+  });
+
+  after(async () => {
+    await browser?.close();
+    [book, ...copies].filter(Boolean).forEach(removeBook);
+  });
+
+  const open = (options) => openBook(browser, book, options);
+
+  async function openChanged(changes, options) {
+    copies.push(changedBook(book, changes));
+    return openBook(browser, copies.at(-1), options);
+  }
+
+  const openWith = (settings, options) => openChanged({ files: { 'javascript/main.js': scriptWith(book, settings) } }, options);
+
+  it('opens at its cover, with its title, without a request that leaves the folder', async () => {
+    const page = await open();
+    assert.deepEqual(await drawnPages(page), [1]);
+    assert.equal(await position(page), '1 / 16');
+    assert.equal(await page.title(), 'Hornbeam No. 7: Trees, leaves and things made by hand');
+    await page.waitForLoadState('networkidle');
+    assert.deepEqual(page.troubles, []);
+    await page.close();
+  });
+
+  it('turns to the last page with the keys and back with the button', async () => {
+    const page = await open();
+    const seen = [await drawnPages(page)];
+    while (seen.at(-1).at(-1) < 16) {
+      await page.keyboard.press('ArrowRight');
+      seen.push(await drawnPages(page));
+      assert.ok(seen.length < 17, 'every press must turn a page');
+    }
+    assert.deepEqual(seen, [[1], [2, 3], [4, 5], [6, 7], [8], [9], [10, 11], [12, 13], [14, 15], [16]]);
+    await page.keyboard.press('ArrowRight');
+    assert.equal(await position(page), '16 / 16');
+    for (let turns = 1; turns < seen.length; turns++) await page.locator('#previous').click();
+    assert.equal(await position(page), '1 / 16');
+    assert.deepEqual(page.troubles, []);
+    await page.close();
+  });
+
+  it('turns to the last page with the button', async () => {
+    const page = await open();
+    for (let turns = 0; turns < 9; turns++) await page.locator('#next').click();
+    assert.deepEqual(await drawnPages(page), [16]);
+    assert.equal(await page.locator('#next').getAttribute('aria-disabled'), 'true');
+    await page.close();
+  });
+
+  it('follows links inside the book and marks links to the web', async () => {
+    const page = await open({ hash: '#page/2' });
+    await page.locator('.page').first().getByRole('link', { name: 'Go to page 12' }).click();
+    assert.deepEqual(await drawnPages(page), [12, 13]);
+    const webLink = page.getByRole('link', { name: 'https://www.example.org/aldermoor' });
+    assert.equal(await webLink.getAttribute('target'), '_blank');
+    assert.match(await webLink.getAttribute('rel'), /noopener/);
+    assert.match(page.url(), /#page\/12$/);
+    await page.close();
+  });
+
+  it('tells screen readers the place and the text of the pages', async () => {
+    const page = await open({ hash: '#page/4' });
+    assert.equal(await page.getByRole('status').textContent(), 'Pages 4 and 5 of 16');
+    const spoken = await page.getByRole('group', { name: 'Page 5' }).locator('.spoken').textContent();
+    assert.match(spoken, /Why bother\?/);
+    assert.equal(await page.getByRole('button', { name: 'Next page' }).count(), 1);
+    await page.close();
+  });
+
+  it('shows one page at a time in an upright window', async () => {
+    const page = await open({ width: 768, height: 1024, hash: '#page/3' });
+    assert.deepEqual(await drawnPages(page), [3]);
+    await page.setViewportSize({ width: 1280, height: 800 });
+    await page.waitForFunction(() => document.querySelectorAll('.page').length === 2);
+    assert.equal(await position(page), '2–3 / 16');
+    await page.close();
+  });
+
+  it('works from the configuration script alone', async () => {
+    const page = await openChanged({ files: { 'files/search/book.js': '' }, removed: ['files/page/5.jpg'] });
+    assert.deepEqual(await drawnPages(page), [1]);
+    for (let turns = 0; turns < 2; turns++) await page.keyboard.press('ArrowRight');
+    await page.locator('.missing').waitFor();
+    assert.equal(await page.locator('.missing').textContent(), '5');
+    await page.keyboard.press('End');
+    assert.equal(await position(page), '16 / 16');
+    await page.close();
+  });
+
+  it('says so when it has no pages', async () => {
+    const page = await openChanged({
+      files: { 'files/search/book.js': '', 'javascript/main.js': scriptWith(book, { totalPageCount: 0 }) },
+    });
+    assert.equal(await page.getByRole('status').textContent(), 'This book has no pages.');
+    assert.deepEqual(page.troubles, []);
+    await page.close();
+  });
+
+  it('defines the digest that the configuration script calls', async () => {
+    const page = await open();
+    const digests = await page.evaluate(() => ['', 'abc', 'a'.repeat(119), 'a'.repeat(120)].map((text) => window.orgt(text)));
+    assert.deepEqual(digests, [
+      'd41d8cd98f00b204e9800998ecf8427e', '900150983cd24fb0d6963f7d28e17f72',
+      '8a7bd0732ed6a28ce75f6dabc90e1613', '5f61c0ccad4cac44c75ff505e1f1e537',
+    ]);
+    await page.close();
+  });
+
+  describe('does what its settings say:', () => {
+    const checks = {
+      'right to left': [{ rightToLeft: 'YES' }, async (page) => {
+        await page.keyboard.press('ArrowLeft');
+        const [second, third] = await page.locator('.page').all();
+        assert.ok((await second.boundingBox()).x > (await third.boundingBox()).x);
+        assert.ok((await page.locator('#next').boundingBox()).x < 640);
+      }],
+      'single pages': [{ viewMode: 'Single' }, async (page) => {
+        await page.keyboard.press('ArrowRight');
+        assert.equal(await position(page), '2 / 16');
+      }],
+      'no cover': [{ coverAlone: 'NO' }, async (page) => assert.equal(await position(page), '1–2 / 16')],
+      'no keys': [{ keyboardControl: 'NO' }, async (page) => {
+        await page.keyboard.press('ArrowRight');
+        assert.equal(await position(page), '1 / 16');
+      }],
+      'no links and text': [{ readerData: 'NO' }, async (page) => {
+        await page.keyboard.press('ArrowRight');
+        assert.equal(await page.locator('.link, .spoken').count(), 0);
+      }],
+      'language and title': [{ languageSetting: 'German', bookTitle: 'Herbst' }, async (page) => {
+        assert.equal(await page.getByRole('button', { name: 'Nächste Seite' }).count(), 1);
+        assert.equal(await page.getByRole('heading').textContent(), 'Herbst');
+        assert.equal(await page.locator('html').getAttribute('lang'), 'de');
+      }],
+      'no tool bar': [{ toolBarVisible: 'NO' }, async (page) => assert.equal(await page.locator('#toolbar').isVisible(), false)],
+      'no full screen': [{ fullScreenButtonVisible: 'NO' }, async (page) => assert.equal(await page.locator('#fullScreen').isVisible(), false)],
+      'colours': [{ backgroundColor: '#102030', toolBarColor: '#405060', toolBarTextColor: '#a0b0c0' }, async (page) => {
+        const style = (selector, name) => page.locator(selector).evaluate((node, key) => getComputedStyle(node)[key], name);
+        assert.equal(await style('body', 'backgroundColor'), 'rgb(16, 32, 48)');
+        assert.equal(await style('#toolbar', 'backgroundColor'), 'rgb(64, 80, 96)');
+        assert.equal(await style('#next', 'color'), 'rgb(160, 176, 192)');
+      }],
+      'background image': [{ bgImageURL: 'files/page/2.jpg', bgImagePosition: 'Fill' }, async (page) => {
+        const { backgroundImage, backgroundSize } = await page.evaluate(() => ({ ...getComputedStyle(document.body) }));
+        assert.match(backgroundImage, /files\/page\/2\.jpg/);
+        assert.equal(backgroundSize, 'cover');
+      }],
+      'logo and link': [{ LogoFile: 'files/page/2.jpg', appLogoLinkURL: 'http://example.org', OpenWindow: '_self' }, async (page) => {
+        const logo = page.getByRole('link', { name: 'http://example.org' });
+        assert.equal(await logo.getAttribute('target'), '_self');
+        assert.ok((await logo.boundingBox()).height < 60);
+      }],
+      'no shadow': [{ pageShadow: 'NO' }, async (page) =>
+        assert.equal(await page.locator('.page').evaluate((node) => getComputedStyle(node).boxShadow), 'none')],
+      'shape without images': [{ pageWidth: 500, pageHeight: 1000, largePageWidth: 0, largePageHeight: 0, readerData: 'NO' }, async (page) => {
+        const { width, height } = await page.locator('.page').boundingBox();
+        assert.ok(Math.abs(width / height - 0.5) < 0.01);
+      }],
+    };
+    for (const [name, [settings, check]] of Object.entries(checks))
+      it(name, async () => {
+        const page = await openWith(settings);
+        await drawnPages(page);
+        await check(page);
+        assert.deepEqual(page.troubles, []);
+        await page.close();
+      });
+  });
+});

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+import { spawnSync } from 'node:child_process';
+import { cpSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
+import { tmpdir } from 'node:os';
+import { join } from 'node:path';
+import { fileURLToPath, pathToFileURL } from 'node:url';
+
+export const pathOf = (name) => fileURLToPath(new URL(`../../${name}`, import.meta.url));
+
+/** Publishes the sample magazine with the program that LEAFCAST names; returns the book's folder. */
+export function publishMagazine(...options) {
+  const program = process.env.LEAFCAST;
+  if (!program) throw new Error('LEAFCAST must name the leafcast program that is to be tested.');
+  const folder = join(mkdtempSync(join(tmpdir(), 'leafcast-e2e-')), 'book');
+  const run = spawnSync(program, ['publish', pathOf('samples/magazine.pdf'), folder, ...options], { encoding: 'utf8' });
+  if (run.status !== 0) throw new Error(`leafcast publish ended with ${run.status ?? run.error}: ${run.stderr}`);
+  return folder;
+}
+
+export const removeBook = (folder) => rmSync(join(folder, '..'), { recursive: true, force: true });
+
+/** A copy of a book in which `files` { path: text } are replaced and `removed` paths are missing. */
+export function changedBook(book, { files = {}, removed = [] }) {
+  const folder = join(mkdtempSync(join(tmpdir(), 'leafcast-e2e-')), 'book');
+  cpSync(book, folder, { recursive: true });
+  for (const [path, text] of Object.entries(files)) writeFileSync(join(folder, path), text);
+  for (const path of removed) rmSync(join(folder, path));
+  return folder;
+}
+
+/** The book's script with other settings, as the property editor would write them. */
+export function scriptWith(book, settings) {
+  const script = readFileSync(join(book, 'javascript/main.js'), 'utf8');
+  return Object.entries(settings).reduce((text, [key, value]) => {
+    const entry = new RegExp(`([{,]${key}:)("[^"]*"|[^",]*)(?=,)`);
+    if (!entry.test(text)) throw new Error(`The book's script has no setting ${key}.`);
+    return text.replace(entry, `$1${JSON.stringify(value)}`);
+  }, script);
+}
+
+/**
+ * Opens a book from its folder. `page.troubles` collects errors, failed requests and requests that
+ * leave the folder.
+ */
+export async function openBook(browser, folder, { width = 1280, height = 800, hash = '', ...context } = {}) {
+  const page = await browser.newPage({ viewport: { width, height }, ...context });
+  page.troubles = [];
+  page.on('console', (message) => message.type() === 'error' && page.troubles.push(message.text()));
+  page.on('pageerror', (error) => page.troubles.push(error.message));
+  page.on('requestfailed', (request) => page.troubles.push(`failed: ${request.url()}`));
+  const home = pathToFileURL(folder).href + '/';
+  page.on('request', (request) => {
+    if (!/^(data|blob):/.test(request.url()) && !request.url().startsWith(home)) page.troubles.push(`foreign: ${request.url()}`);
+  });
+  await page.goto(`${home}index.html${hash}`);
+  return page;
+}

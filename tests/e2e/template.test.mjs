@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+import assert from 'node:assert/strict';
+import { existsSync, readdirSync, readFileSync } from 'node:fs';
+import { after, before, describe, it } from 'node:test';
+import { launchBrowser } from '../../tools/browser.mjs';
+import { pathOf } from './support.mjs';
+
+const TEMPLATE = pathOf('resources/AppFiles/Templates/float/');
+const STYLES = pathOf('resources/AppFiles/Styles/float/');
+const PARTS = ['key', 'title', 'desc', 'value', 'valueSource', 'defalutValue'];
+
+// Runs in the browser, which brings the XML parser.
+function readProperties(text, parts) {
+  const root = new DOMParser().parseFromString(text, 'application/xml').documentElement;
+  const child = (node, name) => [...node.children].find((each) => each.tagName === name)?.textContent;
+  return [...root.querySelectorAll('property')].map((node) => ({
+    type: node.getAttribute('type'),
+    aTitle: child(node, 'aTitle'),
+    ...Object.fromEntries(parts.map((name) => [name, child(node, name)])),
+  }));
+}
+
+describe('the template float', () => {
+  let browser, properties;
+
+  before(async () => {
+    browser = await launchBrowser();
+    const page = await browser.newPage();
+    const read = new Function('text', 'parts', `${readProperties}; return readProperties(text, parts);`);
+    properties = await page.evaluate(
+      ([source, text, parts]) => new Function(`return ${source}`)()(text, parts),
+      [read.toString(), readFileSync(TEMPLATE + 'flashTemplate.xml', 'utf8'), PARTS]);
+  });
+
+  after(() => browser?.close());
+
+  it('declares complete properties that can stand in a script', () => {
+    assert.ok(properties.length > 20);
+    const keys = properties.map((property) => property.key);
+    assert.deepEqual(keys, [...new Set(keys)]);
+    for (const property of properties) {
+      for (const part of PARTS) assert.notEqual(property[part], undefined, `${property.key} has no ${part}`);
+      assert.match(property.key, /^[A-Za-z_$][\w$]*$/);
+      assert.doesNotMatch(property.value, /["\\\n]/);
+      assert.equal(property.value, property.defalutValue, property.key);
+      assert.ok(property.title && property.desc, property.key);
+    }
+  });
+
+  it('gives each property a value of its type', () => {
+    const valid = {
+      pt_number: ({ value }) => /^\d+(\.\d+)?$/.test(value),
+      pt_color: ({ value }) => /^0x[0-9a-f]{6}$/.test(value),
+      pt_list: ({ value, valueSource }) => valueSource.split(',').includes(value),
+      pt_bool: ({ value, aTitle }) => /^(YES|NO)$/.test(value) && Boolean(aTitle),
+      pt_file: ({ valueSource }) => /^\w+\|\*\.\w+(;\*\.\w+)*$/.test(valueSource),
+      pt_text: () => true,
+      pt_composite: () => true,
+    };
+    assert.deepEqual([...new Set(properties.map(({ type }) => type))].sort(), Object.keys(valid).sort());
+    for (const property of properties) assert.ok(valid[property.type](property), property.key);
+  });
+
+  it('has no setting that the reader ignores', () => {
+    const reader = readFileSync(TEMPLATE + 'javascript/main_preview.js', 'utf8');
+    const ignored = properties.filter(({ type, key }) => type !== 'pt_composite' && !new RegExp(`\\b${key}\\b`).test(reader));
+    assert.deepEqual(ignored.map(({ key }) => key), []);
+  });
+
+  it('has a page whose placeholders can all be filled', () => {
+    const html = readFileSync(TEMPLATE + 'index.html', 'latin1');
+    assert.deepEqual(html.match(/\$\{.*?\}/g), ['${meta.keywords}', '${meta.description}', '${index.title}']);
+    assert.doesNotMatch(html, /\}\s*\$\{/);
+    assert.doesNotMatch(html, /[^\x00-\x7f]/, 'its encoding is not declared to its reader');
+    assert.doesNotMatch(html, /(src|href)="(\w+:)?\/\//);
+  });
+
+  it('ends its script so that the configuration can be appended', () => {
+    assert.match(readFileSync(TEMPLATE + 'javascript/main_preview.js', 'utf8'), /\}\n$/);
+  });
+
+  for (const style of readdirSync(STYLES))
+    it(`has in the style ${style} only settings and files that exist`, () => {
+      const records = readFileSync(`${STYLES}${style}/tmplSetting.txt`, 'utf8').split('\n').filter(Boolean);
+      for (const record of records) {
+        const [key, value] = record.split(/=(.*)/s);
+        assert.ok(properties.some((property) => property.key === key), key);
+        const file = /STYLE_RESOURCE:(.*)/.exec(value)?.[1];
+        if (file) assert.ok(existsSync(`${STYLES}${style}/${file}`), file);
+      }
+      assert.ok(existsSync(`${STYLES}${style}/shot.jpg`), 'a picture for the template chooser');
+    });
+});
