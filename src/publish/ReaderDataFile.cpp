@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "publish/ReaderDataFile.h"
+
+#include "base/FileSteps.h"
+#include "base/Log.h"
+#include "publish/ReaderDataWriter.h"
+
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast {
+
+namespace {
+
+    std::vector<ReaderOutlineItem> outlineOf(const ReaderBook& book)
+    {
+        if (!book.outline)
+            return {};
+        return readerOutline(book.outline->items(), BookPlaces(book.pageSource.normalPages()));
+    }
+
+    bool writeTo(const QString& path, const ReaderBook& book)
+    {
+        QSaveFile file(path);
+        if (file.open(QIODevice::WriteOnly)) {
+            ReaderPages pages(book);
+            ReaderDataWriter writer(file);
+            while (!pages.atEnd())
+                writer.addPage(pages.next());
+            writer.finish(outlineOf(book));
+        }
+        if (file.commit())
+            return true;
+        LOG_WARN("ReaderDataFile", u"can't write %1: %2"_s.arg(path, file.errorString()));
+        return false;
+    }
+
+    QByteArray identityOf(const QString& path)
+    {
+        const QFileInfo file(path);
+        return '\n' + path.toUtf8() + '\n' + QByteArray::number(file.size()) + '\n'
+            + QByteArray::number(file.lastModified().toMSecsSinceEpoch()) + '\n';
+    }
+
+    /// Everything that the file depends on.
+    QByteArray fingerprint(const ReaderBook& book)
+    {
+        QCryptographicHash hash(QCryptographicHash::Sha1);
+        hash.addData(book.withLinks ? "links" : "none");
+        hash.addData(ReaderDataWriter::outlineText(outlineOf(book)));
+        for (const auto& page : book.pageSource.normalPages())
+            if (page)
+                hash.addData(
+                    QByteArray::number(page->pageIndex()) + identityOf(page->pageFilePath()));
+        return hash.result().toHex();
+    }
+
+    /// In the page source's own work folder, which goes with it; empty for images.
+    QString keptFile(const ReaderBook& book)
+    {
+        const auto& pages = book.pageSource.normalPages();
+        if (!book.pageSource.document() || pages.empty() || !pages.front())
+            return {};
+        const QString folder = QFileInfo(pages.front()->pageFilePath()).path();
+        return folder + u"/.reader-data-"_s + QString::fromLatin1(fingerprint(book)) + u".js"_s;
+    }
+
+} // namespace
+
+void ReaderDataFile::write(const ReaderBook& book) const
+{
+    FileSteps::makeFolders(QFileInfo(iPath).path());
+    if (!place(book))
+        remove();
+}
+
+bool ReaderDataFile::place(const ReaderBook& book) const
+{
+    const QString kept = keptFile(book);
+    if (kept.isEmpty())
+        return writeTo(iPath, book);
+    if (!QFileInfo(kept).isFile() && !writeTo(kept, book))
+        return writeTo(iPath, book);
+    return FileSteps::replaceFile(kept, iPath);
+}
+
+void ReaderDataFile::remove() const
+{
+    if (!FileSteps::exists(iPath))
+        return;
+    FileSteps::remove(iPath);
+    QDir().rmdir(QFileInfo(iPath).path());
+}
+
+} // namespace leafcast
