@@ -39,9 +39,7 @@ PDFServiceAnswer PDFServicePool::next()
 {
     std::unique_lock lock(iMutex);
     iDelivered.wait(lock, [this] { return iAnswers.contains(iTaken); });
-    const auto answered = iAnswers.find(iTaken);
-    PDFServiceAnswer answer = std::move(answered->second);
-    iAnswers.erase(answered);
+    PDFServiceAnswer answer = std::move(iAnswers.extract(iTaken).mapped());
     ++iTaken;
     iRoomAhead.notify_one();
     return answer;

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "publish/FlashBookOutputApp.h"
+
+#include "publish/BookCheck.h"
+#include "publish/BookFixture.h"
+#include "support/LogCapture.h"
+
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+using namespace leafcast;
+using testing::ElementsAre;
+
+namespace {
+
+class FlashBookOutputAppTest : public BookFixture {
+protected:
+    FlashBookOutputApp outputNamed(const QString& name) const
+    {
+        return { pageSource, flashTemplate, resources.path(u"book"_s), name };
+    }
+};
+
+} // namespace
+
+TEST_F(FlashBookOutputAppTest, NamesThePackageAndThePageInIt)
+{
+    for (const QString& name : { u"MyBook"_s, u"MyBook.html"_s }) {
+        const auto output = outputNamed(name);
+        EXPECT_EQ(output.outputFileName(), inBook(u"MyBook.app"_s));
+        EXPECT_EQ(output.saveToFileName(), u"MyBook.app");
+        EXPECT_EQ(
+            output.outputHTMLFileName(), inBook(u"MyBook.app/Contents/Resources/index.html"_s));
+    }
+}
+
+TEST_F(FlashBookOutputAppTest, WritesTheBookIntoAFreshCopyOfTheViewer)
+{
+    resources.addFile(u"AppFiles/TmplData/mac.app/Contents/MacOS/viewer"_s, "program");
+    resources.addFile(u"AppFiles/TmplData/mac.app/Contents/Resources/icon.png"_s, "icon");
+    resources.addFile(u"book/MyBook.app/Contents/stale.txt"_s, "old");
+    addPicture({ 30, 40 });
+    const LogCapture log;
+    outputNamed(u"MyBook"_s).ouputTheBook();
+    EXPECT_EQ(bookFile(u"MyBook.app/Contents/MacOS/viewer"_s), "program");
+    EXPECT_EQ(bookFile(u"MyBook.app/Contents/Resources/icon.png"_s), "icon");
+    EXPECT_NE(bookFile(u"MyBook.app/Contents/Resources/files/page/1.jpg"_s), "none");
+    EXPECT_NE(bookFile(u"MyBook.app/Contents/Resources/javascript/main.js"_s), "none");
+    EXPECT_EQ(bookFile(u"MyBook.app/Contents/stale.txt"_s), "none");
+    EXPECT_TRUE(isBookPackage(inBook(u"MyBook.app"_s)));
+    EXPECT_THAT(log.lines(), ElementsAre());
+}
+
+TEST_F(FlashBookOutputAppTest, WritesTheBookWithoutAViewerToo)
+{
+    const LogCapture log;
+    const auto viewer = resources.path(u"AppFiles/TmplData/mac.app/Contents"_s);
+    outputNamed(u"MyBook"_s).ouputTheBook();
+    EXPECT_NE(bookFile(u"MyBook.app/Contents/Resources/index.html"_s), "none");
+    EXPECT_THAT(log.lines(),
+        testing::Contains(u"ERROR FlashBookOutputApp: ouput the book,copy failed:"_s + viewer));
+}
