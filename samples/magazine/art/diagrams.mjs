@@ -2,6 +2,7 @@
 // Charts and explanations: colours in a leaf, a line of years, the tree year, leaf printing.
 import { AUTUMN, along, at, many, polyline, range, round, svg } from './drawing.mjs';
 import { leaf } from './leaves.mjs';
+import { ringWidths } from './patterns.mjs';
 
 const INK = '#2b2f28';
 const label = (x, y, text, { size = 15, anchor = 'middle', fill = INK, weight = 400 } = {}) =>
@@ -29,9 +30,9 @@ export function pigments() {
   return svg(640, 330, `${grid}${curves.map(area).join('')}<path d="M${left} ${bottom}H${right}" stroke="${INK}" stroke-width="1.5"/>${names.join('')}${months.join('')}`, 'xMidYMid meet');
 }
 
-/** The rings as a bar from the heart to the bark, with `notes` [{ year, text }] below, 640 by 150. */
+/** The rings of the log as a bar from the heart to the bark, 640 by 150. */
 export function ringLine() {
-  const widths = range(62, (year) => (6 + 5 * Math.abs(Math.sin(year * 12.9898) * 43.7 % 1)) * (year > 33 && year < 40 ? 0.42 : 1));
+  const widths = ringWidths();
   const total = widths.reduce((sum, width) => sum + width, 0);
   let x = 10;
   const bars = widths.map((width, year) => {
@@ -41,7 +42,7 @@ export function ringLine() {
     return bar;
   });
   const place = (year) => 10 + (620 * widths.slice(0, year).reduce((sum, width) => sum + width, 0)) / total;
-  const notes = [[1, 'Acorn', 'start'], [20, 'Neighbours felled'], [39, 'Six dry years'], [51, 'The great storm'], [62, 'Felled', 'end']];
+  const notes = [[1, 'Acorn', 'start'], [19, 'Neighbours felled'], [39, 'Six dry years'], [51, 'The great storm'], [62, 'Felled', 'end']];
   const marks = notes.map(([year, text, anchor = 'middle']) =>
     `<path d="M${round(place(year))} 84V100" stroke="#b5512a" stroke-width="2"/>${label(place(year), 118, text, { anchor, size: 14 })}${label(place(year), 136, 'Year ' + year, { anchor, size: 12, fill: '#7a7362' })}`);
   return svg(640, 150, `${bars.join('')}${marks.join('')}`, 'xMidYMid meet');
@@ -81,7 +82,7 @@ const GREEN = { fill: '#5d7a3a', vein: '#f4ead6' };
 const INKED = { fill: '#b5512a', vein: '#f4ead6' };
 
 const STEPS = [
-  `${at(0, 36, leaf('beech', GREEN), { scale: 0.9, turn: 12 })}<g fill="none" stroke="#cbbf9f" stroke-width="5"><path d="M-70 -46H70M-70 60H70"/></g>`,
+  `<rect x="-58" y="-46" width="116" height="26" rx="3" fill="#6a2f3a"/><rect x="-52" y="-41" width="110" height="16" fill="#fffdf6"/>${many(2, (row) => `<path d="M-52 ${-36 + 6 * row}H58" stroke="#cbbf9f"/>`)}${many(5, (row) => `<rect x="${-70 + 3 * (row % 2)}" y="${-18 + 14 * row}" width="136" height="8" rx="1" fill="#d9d5cb" stroke="#a9a496"/>`)}${many(4, (row) => at(-30 + 24 * row, -6 + 14 * row, '<path d="M-26 0Q0 -7 26 0Q0 5 -26 0Z" fill="#5d7a3a"/>'))}`,
   `<rect x="-70" y="-6" width="120" height="56" rx="4" fill="#8a5a34"/><rect x="-62" y="0" width="104" height="44" fill="#b5512a"/>${at(46, -20, '<rect x="-26" y="-11" width="52" height="22" rx="9" fill="#3a3f3a"/><path d="M0 -11V-24H30V-46" fill="none" stroke="#6b5a44" stroke-width="6" stroke-linejoin="round"/>', { turn: -14 })}`,
   `${at(-4, 44, leaf('beech', INKED), { scale: 0.95, turn: 10 })}${at(34, -30, '<rect x="-26" y="-11" width="52" height="22" rx="9" fill="#3a3f3a"/>', { turn: 28 })}`,
   `${PAPER}${at(0, 40, leaf('beech', INKED), { scale: 0.8, turn: 8 })}`,

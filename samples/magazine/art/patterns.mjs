@@ -5,15 +5,19 @@ import { beechHalfWidth, leaf, PLAIN_LEAF, SPECIES_NAMES } from './leaves.mjs';
 
 const RING_COUNT = 62;
 
-function ringRadii(next) {
-  const widths = range(RING_COUNT, (year) => (3.2 + 5.2 * next()) * (year > 33 && year < 40 ? 0.45 : 1));
-  let sum = 10;
-  return widths.map((width) => (sum += width));
+/**
+ * How much the oak of the story grew in each of its years: little in the shade of its neighbours, up to
+ * the 18th, and little in the dry years from the 34th to the 39th.
+ */
+export function ringWidths() {
+  const next = random(12);
+  const growth = (year) => (year <= 18 ? 0.62 : year >= 34 && year <= 39 ? 0.4 : 1);
+  return range(RING_COUNT, (index) => (4.4 + 5.4 * next()) * growth(index + 1));
 }
 
-/** The end of a log, 840 by 1120; narrow rings lie between the 34th and the 40th year. */
+/** The end of a log, 840 by 1120, with a red line where the dry years end. */
 export function growthRings() {
-  const next = random(12);
+  const next = random(2);
   const waves = range(7, (index) => ({ count: index + 1, phase: next() * 6.283, size: (index < 2 ? 0.035 : 0.014) / (index * 0.4 + 1) }));
   const outline = (radius) => softPolygon(range(96, (step) => {
     const angle = (6.283 * step) / 96;
@@ -21,12 +25,13 @@ export function growthRings() {
     const bend = 1 + grown * waves.reduce((total, w) => total + w.size * Math.sin(angle * w.count + w.phase), 0);
     return [430 + radius * bend * Math.cos(angle) * 0.99, 560 + radius * bend * Math.sin(angle)];
   }));
-  const radii = ringRadii(next);
+  let reached = 8;
+  const radii = ringWidths().map((width) => (reached += width));
   const largest = radii[RING_COUNT - 1];
   const ring = (radius, index) => {
     const wood = along(['#e8c58c', '#dcae6c', '#c68d4c', '#b87f45', '#8a5a34'], radius / largest);
     return `<path d="${outline(radius)}" fill="${mix(wood, '#ffffff', 0.1 * next())}" stroke="${mix(wood, '#4a2a14', 0.55)}" stroke-width="${round(0.9 + 1.3 * next())}"/>` +
-      (index === 39 ? `<path d="${outline(radius)}" fill="none" stroke="#b9502b" stroke-width="3.5"/>` : '');
+      (index === 38 ? `<path d="${outline(radius)}" fill="none" stroke="#b9502b" stroke-width="3.5"/>` : '');
   };
   const crack = polyline([[430, 560], [520, 521], [610, 492], [700, 452], [776, 428]]);
   return svg(840, 1120, `<rect width="840" height="1120" fill="#1d3329"/>
