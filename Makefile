@@ -2,7 +2,7 @@
 # The front door. Each target sets up what it needs first; a second run finds it there.
 SHELL := /bin/bash
 .DEFAULT_GOAL := help
-.PHONY: help demo test asan bench lint format install clean
+.PHONY: help demo test asan bench samples shots lint format install clean
 
 DEMO_BOOK := build/demo-book
 PREFIX ?= /usr/local
@@ -34,6 +34,17 @@ bench: ## Measure speed, memory and size beside other programs
 	@tools/setup bench
 	@tools/build release
 	@bench/run
+
+samples: ## Draw the sample magazine, the first book's pages and the template's pictures anew
+	@tools/setup samples
+	@node samples/make-magazine.mjs
+	@node tools/make-demo-images.mjs
+	@node tools/make-template-art.mjs
+
+shots: ## Take the pictures of the styles from a real book
+	@tools/setup samples
+	@tools/build release
+	@LEAFCAST=$(CURDIR)/build/release/bin/leafcast node tools/make-shots.mjs
 
 lint: ## Check formatting, includes and clang-tidy on changed files
 	@tools/setup lint
