@@ -92,7 +92,7 @@ void FlashPageSourcePDF::logPagesBeyondTheDocument() const
         = std::count_if(iNeedToImportPages.begin(), iNeedToImportPages.end(), isMissing);
     if (missing > 0)
         LOG_WARN("FlashPageSourcePDF",
-            u"%1 has %2 pages; the range %3 names %4 others"_s.arg(sourceFile(),
+            u"%1 has %2 pages; the range %3 asks for %4 that it does not have"_s.arg(sourceFile(),
                 QString::number(iPDFDoc->pageCount()), iPageRange, QString::number(missing)));
 }
 

@@ -45,6 +45,7 @@ TEST_F(FlashOutlinePDFTest, TakesTheBookmarksWithTheirNumbersInTheWholeDocument)
         u"<ols><o><c>Äpfel</c><p>1</p><l>1</l><ci>"
         "<o><c>Boskop</c><p>4</p><l>2</l><ci/></o></ci></o>"
         "<o><c>No target</c><p>0</p><l>1</l><ci/></o></ols>"_s);
+    ASSERT_EQ(outline.items().size(), 2u);
     const FlashOutlineItem& first = *outline.items().front();
     EXPECT_EQ(first.parent(), nullptr);
     EXPECT_EQ(first.childItems().front()->parent(), &first);
