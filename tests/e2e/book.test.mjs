@@ -72,6 +72,22 @@ describe('a published book', () => {
     await page.close();
   });
 
+  it('turns when a finger swipes across, not when it moves down', async () => {
+    const page = await open({ hasTouch: true });
+    const swipe = (across, down) => page.locator('#stage').evaluate((stage, [x, y]) => {
+      const touch = (dx, dy) => new Touch({ identifier: 1, target: stage, clientX: 600 + dx, clientY: 400 + dy });
+      stage.dispatchEvent(new TouchEvent('touchstart', { touches: [touch(0, 0)] }));
+      stage.dispatchEvent(new TouchEvent('touchend', { changedTouches: [touch(x, y)] }));
+    }, [across, down]);
+    await swipe(-60, 200);
+    assert.equal(await position(page), '1 / 16');
+    await swipe(-120, 10);
+    assert.equal(await position(page), '2–3 / 16');
+    await swipe(120, 10);
+    assert.equal(await position(page), '1 / 16');
+    await page.close();
+  });
+
   it('follows links inside the book and marks links to the web', async () => {
     const page = await open({ hash: '#page/2' });
     await page.locator('.page').first().getByRole('link', { name: 'Go to page 12' }).click();

@@ -62,10 +62,10 @@
     return (number(config.pageWidth) || 3) / (number(config.pageHeight) || 4);
   }
 
+  // What the book has to itself, less a margin that shadows need.
   function spaceForPages() {
-    const buttons = element('previous').offsetWidth + element('next').offsetWidth;
-    const { clientWidth, clientHeight } = element('stage');
-    return { width: Math.max(clientWidth - buttons - 44, 80), height: Math.max(clientHeight - 40, 80) };
+    const { clientWidth, clientHeight } = element('book');
+    return { width: Math.max(clientWidth - 24, 80), height: Math.max(clientHeight - 40, 80) };
   }
 
   function fittingHeight(shapes, space) {
