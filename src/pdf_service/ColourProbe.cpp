@@ -10,7 +10,7 @@ namespace {
     constexpr int ToleranceOf255 = 5;
 } // namespace
 
-bool mayHaveColour(const LoadedPage& page)
+ColourNeed colourNeedOf(const LoadedPage& page)
 {
     const Library& library = page.document().library();
     int answer = 0;
@@ -21,7 +21,9 @@ bool mayHaveColour(const LoadedPage& page)
         page.runAnnotations(device.get(), 1, 1);
         fz_close_device(library.context(), device.get());
     });
-    return !finished || answer != 0; // the device ends the run at the first colour
+    if (finished && answer == 0)
+        return ColourNeed::None;
+    return answer == 2 ? ColourNeed::Certain : ColourNeed::Unknown; // ended at the first colour
 }
 
 bool hasColour(const Bitmap& bitmap)

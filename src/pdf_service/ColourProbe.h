@@ -6,9 +6,15 @@
 
 namespace leafcast::service {
 
+enum class ColourNeed {
+    None,
+    Unknown, // there is a picture or shading in a colour space
+    Certain
+};
+
 /// Whether a page needs more than grey. A difference between red, green and blue of up to 2 percent
 /// counts as grey: printing black alone comes out of colour management as (35, 31, 32).
-bool mayHaveColour(const LoadedPage& page);
+ColourNeed colourNeedOf(const LoadedPage& page);
 
 /// The exact answer, from the drawn pixels: pictures in a colour space are often grey in fact.
 bool hasColour(const Bitmap& bitmap);

@@ -26,9 +26,21 @@ namespace {
         return { -11059 * r - 21709 * g + 32768 * b, 32768 * r - 27439 * g - 5329 * b };
     }
 
+    constexpr int Run = 8; // pixels looked at together
+
+    // Whether all pixels of a run, in both rows, are the same.
     bool isFlat(const unsigned char* upper, const unsigned char* lower)
     {
-        return std::memcmp(upper, upper + 3, 3) == 0 && std::memcmp(upper, lower, 6) == 0;
+        return std::memcmp(upper, lower, 3 * Run) == 0
+            && std::memcmp(upper, upper + 3, 3 * (Run - 1)) == 0;
+    }
+
+    bool isGrey(const unsigned char* row)
+    {
+        int difference = 0;
+        for (int i = 0; i < 3 * Run; i += 3)
+            difference |= (row[i] ^ row[i + 1]) | (row[i] ^ row[i + 2]);
+        return difference == 0;
     }
 
     size_t changedInBlock(const unsigned char* upper, const unsigned char* lower)
@@ -50,14 +62,22 @@ namespace {
         return changed;
     }
 
+    size_t changedInRun(const unsigned char* upper, const unsigned char* lower, int width)
+    {
+        size_t changed = 0;
+        for (int x = 0; x + 1 < width; x += 2)
+            changed += changedInBlock(upper + 3 * x, lower + 3 * x);
+        return changed;
+    }
+
     size_t changedInRows(const unsigned char* upper, const unsigned char* lower, int width)
     {
         size_t changed = 0;
-        for (int x = 0; x + 1 < width; x += 2, upper += 6, lower += 6) {
-            if (!isFlat(upper, lower))
-                changed += changedInBlock(upper, lower);
+        for (; width >= Run; width -= Run, upper += 3 * Run, lower += 3 * Run) {
+            if (!isFlat(upper, lower) && !(isGrey(upper) && isGrey(lower)))
+                changed += changedInRun(upper, lower, Run);
         }
-        return changed;
+        return changed + changedInRun(upper, lower, width);
     }
 
 } // namespace

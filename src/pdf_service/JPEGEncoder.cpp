@@ -2,11 +2,11 @@
 #include "pdf_service/JPEGEncoder.h"
 
 #include "pdf_service/FineColour.h"
+#include "pdf_service/HuffmanStatistics.h"
 #include "pdf_service/ServiceError.h"
 
+#include <algorithm>
 #include <csetjmp>
-#include <cstdio> // jpeglib.h needs it before
-#include <jpeglib.h>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +23,7 @@ namespace {
         jpeg_compress_struct library{};
         jpeg_error_mgr errors{};
         jpeg_destination_mgr destination{};
+        HuffmanStatistics statistics;
         jmp_buf failed{};
         std::vector<unsigned char>* output = nullptr;
         bool outOfMemory = false;
@@ -101,6 +102,16 @@ namespace {
         compressor.library.dest = &compressor.destination;
     }
 
+    void writeRows(jpeg_compress_struct& library, const Bitmap& bitmap)
+    {
+        std::array<JSAMPROW, 64> rows{};
+        const auto first = static_cast<int>(library.next_scanline);
+        const int count = std::min(bitmap.height - first, static_cast<int>(rows.size()));
+        for (int i = 0; i < count; ++i) // the library only reads them
+            rows[static_cast<size_t>(i)] = const_cast<JSAMPROW>(bitmap.row(first + i));
+        jpeg_write_scanlines(&library, rows.data(), static_cast<JDIMENSION>(count));
+    }
+
     bool compress(Compressor& compressor, const Bitmap& bitmap, const JPEGOptions& options)
     {
         if (setjmp(compressor.failed) != 0)
@@ -108,11 +119,10 @@ namespace {
         connect(compressor);
         configure(compressor, bitmap, options);
         jpeg_start_compress(&compressor.library, TRUE);
-        while (compressor.library.next_scanline < compressor.library.image_height) {
-            const int y = static_cast<int>(compressor.library.next_scanline);
-            auto* row = const_cast<JSAMPROW>(bitmap.row(y)); // the library only reads it
-            jpeg_write_scanlines(&compressor.library, &row, 1);
-        }
+        if (compressor.library.optimize_coding)
+            compressor.statistics.replaceThoseOf(compressor.library);
+        while (compressor.library.next_scanline < compressor.library.image_height)
+            writeRows(compressor.library, bitmap);
         jpeg_finish_compress(&compressor.library);
         return true;
     }

@@ -105,12 +105,12 @@ namespace {
         }
     };
 
-    PaintResult paintAt(double scale, const LoadedPage& page, bool colour, Bitmap& bitmap)
+    PaintResult paintAt(double scale, const LoadedPage& page, ColourNeed colour, Bitmap& bitmap)
     {
-        prepare(bitmap, page.geometry(), scale, colour ? 3 : 1);
+        prepare(bitmap, page.geometry(), scale, colour == ColourNeed::None ? 1 : 3);
         Drawing drawing(page, bitmap);
         drawing.run(bitmap);
-        if (colour && !hasColour(bitmap))
+        if (colour == ColourNeed::Unknown && !hasColour(bitmap))
             convertToGrey(bitmap);
         return { scale, drawing.damaged };
     }
@@ -120,7 +120,7 @@ namespace {
 PaintResult paintPage(const LoadedPage& page, const PaintOptions& options, Bitmap& bitmap)
 {
     double scale = fittingScale(page.geometry(), options);
-    const bool colour = mayHaveColour(page);
+    const ColourNeed colour = colourNeedOf(page);
     for (;;) {
         try {
             return paintAt(scale, page, colour, bitmap);
