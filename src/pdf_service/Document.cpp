@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "pdf_service/Document.h"
 
+#include "pdf_service/ColourHooks.h"
 #include "pdf_service/InputFile.h"
+#include "pdf_service/ProfileSearch.h"
 #include "pdf_service/TextString.h"
 
 using namespace Qt::StringLiterals;
@@ -21,6 +23,7 @@ Document::Document(const Library& library, const QString& path, const QString& p
         authenticate(password);
         iPageTree.load(library, iDocument);
         readTitle();
+        preparePrintColours();
     } catch (...) {
         pdf_drop_document(context(), iDocument);
         throw;
@@ -29,6 +32,7 @@ Document::Document(const Library& library, const QString& path, const QString& p
 
 Document::~Document()
 {
+    setPrintColour(nullptr);
     iNamedDestinations.reset();
     pdf_drop_document(context(), iDocument);
 }
@@ -65,6 +69,14 @@ void Document::readTitle()
     });
     if (read && bytes != nullptr)
         iTitle = textFromPDFString(bytes, length).trimmed();
+}
+
+void Document::preparePrintColours()
+{
+    iPrintColour = std::make_unique<PrintColour>(outputIntentProfile(iLibrary, iDocument));
+    if (!iPrintColour->hasProfile())
+        iPrintColour = std::make_unique<PrintColour>(installedProfile());
+    setPrintColour(iPrintColour.get());
 }
 
 const NamedDestinations& Document::namedDestinations() const

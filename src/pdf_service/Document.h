@@ -6,6 +6,7 @@
 #include "pdf_service/PageGeometry.h"
 #include "pdf_service/PageLabels.h"
 #include "pdf_service/PageTree.h"
+#include "pdf_service/PrintColour.h"
 
 #include <memory>
 #include <mupdf/pdf.h>
@@ -47,11 +48,13 @@ private:
     void openFile(const QString& path);
     void authenticate(const QString& password) const;
     void readTitle();
+    void preparePrintColours();
 
     const Library& iLibrary;
     pdf_document* iDocument = nullptr;
     PageTree iPageTree;
     QString iTitle;
+    std::unique_ptr<PrintColour> iPrintColour;
     mutable std::optional<PageLabels> iLabels; // read when first asked for
     mutable std::optional<NamedDestinations> iNamedDestinations;
 };
