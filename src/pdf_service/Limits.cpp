@@ -65,7 +65,7 @@ void Limits::apply() const
 RequestWatch::RequestWatch(int seconds)
 {
     processorDeadline = processorSeconds() + seconds + 1;
-    tickEverySecond(true);
+    tickEverySecond(parentAtStart != 0);
 }
 
 RequestWatch::~RequestWatch()

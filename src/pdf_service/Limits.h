@@ -13,7 +13,8 @@ struct Limits {
 
 /// While it lives, the process ends itself when the request it stands for has used up its processor
 /// time, or when the process that started this one has died. A second line of defence: the client
-/// kills a worker from outside, but a client that was itself killed can't.
+/// kills a worker from outside, but a client that was itself killed can't. Idle unless limits have
+/// been applied.
 class RequestWatch {
 public:
     explicit RequestWatch(int seconds);

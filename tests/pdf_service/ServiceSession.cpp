@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "pdf_service/ServiceSession.h"
+
+#include <QFile>
+#include <QJsonDocument>
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast::service {
+
+QString ServiceSession::write(const QString& name, const QByteArray& bytes) const
+{
+    QFile file(path(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("a test file can't be written");
+    return path(name);
+}
+
+QJsonObject ServiceSession::ask(const QString& operation, QJsonObject fields)
+{
+    fields.insert(u"id"_s, 7);
+    fields.insert(u"op"_s, operation);
+    return askRaw(QJsonDocument(fields).toJson(QJsonDocument::Compact));
+}
+
+QJsonObject ServiceSession::askRaw(const QByteArray& line)
+{
+    return QJsonDocument::fromJson(iHandler.answer({ line, false })).object();
+}
+
+QJsonObject ServiceSession::open(const QByteArray& pdf, const QString& password)
+{
+    return openFile(write(u"document.pdf"_s, pdf), password);
+}
+
+QJsonObject ServiceSession::openFile(const QString& path, const QString& password)
+{
+    return ask(u"open"_s, { { u"path"_s, path }, { u"password"_s, password } });
+}
+
+QJsonObject ServiceSession::render(int page, double scale, const QJsonObject& fields)
+{
+    QJsonObject request{ { u"page"_s, page }, { u"scale"_s, scale },
+        { u"path"_s, path(u"page.jpg"_s) }, { u"quality"_s, 95 }, { u"chroma"_s, u"444"_s },
+        { u"maxBytes"_s, 512 << 20 } };
+    for (auto field = fields.begin(); field != fields.end(); ++field)
+        request.insert(field.key(), field.value());
+    return ask(u"render"_s, request);
+}
+
+} // namespace leafcast::service
