@@ -39,7 +39,9 @@ PDFServiceAnswer PDFServicePool::next()
 {
     std::unique_lock lock(iMutex);
     iDelivered.wait(lock, [this] { return iAnswers.contains(iTaken); });
-    PDFServiceAnswer answer = std::move(iAnswers.extract(iTaken).mapped());
+    const auto answered = iAnswers.find(iTaken);
+    PDFServiceAnswer answer = std::move(answered->second);
+    iAnswers.erase(answered);
     ++iTaken;
     iRoomAhead.notify_one();
     return answer;
