@@ -1,0 +1,44 @@
+# SPDX-License-Identifier: MIT
+"""What we set out to reach. Printed as met or not met; the run never fails over it."""
+
+from dataclasses import dataclass
+
+MEBIBYTE = 1 << 20
+
+
+@dataclass(frozen=True)
+class Target:
+    text: str
+    value: float
+    limit: float
+    unit: str
+    at_least: bool = False
+
+    @property
+    def met(self):
+        return self.value >= self.limit if self.at_least else self.value < self.limit
+
+
+def speed(peer, one_job, two_jobs):
+    """Import of the text book at quality 0 against pdftoppm, both in pages a second."""
+    return [Target("Text book, quality 0, two jobs: import against pdftoppm",
+                   two_jobs / peer, 4, "times", at_least=True),
+            Target("Text book, quality 0, one job: import against pdftoppm",
+                   one_job / peer, 2, "times", at_least=True)]
+
+
+def memory(many, very_many):
+    """Peak bytes of publishing many and five times as many pages."""
+    noise = 1.05  # samples 20 ms apart never meet the same peak twice
+    return [Target("Peak memory of many pages", many / MEBIBYTE, 250, "MiB"),
+            Target("Peak memory of five times as many, against many", very_many / many, noise, "times")]
+
+
+def rewrite(first_seconds, second_seconds):
+    return [Target("Second book-writing with one setting changed, against the first",
+                   second_seconds / first_seconds, 0.1, "times")]
+
+
+def latency(version_seconds, first_page_seconds):
+    return [Target("leafcast --version", version_seconds * 1000, 30, "ms"),
+            Target("First page drawn of a long document", first_page_seconds * 1000, 150, "ms")]
