@@ -15,7 +15,7 @@ namespace {
 
 double processorSeconds()
 {
-    timespec now {};
+    timespec now{};
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
     return double(now.tv_sec) + double(now.tv_nsec) * 1e-9;
 }
@@ -38,8 +38,8 @@ fz_pixmap* draw(fz_context* context, fz_document* document, const PageOrder& ord
 
 unsigned long encode(fz_context* context, fz_pixmap* pixmap, int quality, int sampling)
 {
-    jpeg_compress_struct encoder {};
-    jpeg_error_mgr errors {};
+    jpeg_compress_struct encoder{};
+    jpeg_error_mgr errors{};
     encoder.err = jpeg_std_error(&errors);
     jpeg_create_compress(&encoder);
     unsigned char* bytes = nullptr;
@@ -83,8 +83,8 @@ int measure(fz_context* context, const char* path, float scale, int quality)
         encoding += processorSeconds() - drawn;
     }
     fz_drop_document(context, document);
-    std::printf("{\"drawing\": %.4f, \"encoding\": %.4f, \"total\": %.4f, \"bytes\": %lu}\n", drawing,
-        encoding, processorSeconds() - start, bytes);
+    std::printf("{\"drawing\": %.4f, \"encoding\": %.4f, \"total\": %.4f, \"bytes\": %lu}\n",
+        drawing, encoding, processorSeconds() - start, bytes);
     return EXIT_SUCCESS;
 }
 

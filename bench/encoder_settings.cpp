@@ -9,7 +9,7 @@
 int main()
 {
     constexpr int Steps = 1000;
-    leafcast::JPEGSettings previous { 0, false };
+    leafcast::JPEGSettings previous{ 0, false };
     for (int step = 0; step <= Steps; ++step) {
         const double factor = double(step) / Steps;
         const leafcast::JPEGSettings settings = leafcast::jpegSettings(factor);
