@@ -5,7 +5,6 @@
 #include "base/NamedException.h"
 
 #include <algorithm>
-#include <numeric>
 #include <QStringTokenizer>
 
 using namespace Qt::StringLiterals;
@@ -23,8 +22,8 @@ namespace {
         if (former + count > mostNumbers)
             throw NamedException(u"ERROR_PAGE_RANGE_TOO_LONG"_s,
                 u"the page range names more than %1 pages"_s.arg(mostNumbers));
-        numbers.resize(static_cast<size_t>(former + count));
-        std::iota(numbers.begin() + former, numbers.end(), first);
+        for (qint64 number = first; number <= last; ++number) // 64 bits: last may be the greatest
+            numbers.push_back(static_cast<qint32>(number));
     }
 
     /// Parts after the second are ignored: "1-3-9" is 1 to 3.
