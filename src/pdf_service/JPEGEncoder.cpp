@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <csetjmp>
+#include <cstring>
 
 using namespace Qt::StringLiterals;
 
@@ -112,6 +113,15 @@ namespace {
         jpeg_write_scanlines(&library, rows.data(), static_cast<JDIMENSION>(count));
     }
 
+    // The library's own way with grey takes the bytes one by one, a tenth of the encoding time.
+    void copyGreyRows(j_compress_ptr library, JSAMPARRAY input, JSAMPIMAGE output,
+        JDIMENSION firstOutputRow, int rows)
+    {
+        for (int i = 0; i < rows; ++i)
+            std::memcpy(output[0][firstOutputRow + static_cast<JDIMENSION>(i)], input[i],
+                library->image_width);
+    }
+
     bool compress(Compressor& compressor, const Bitmap& bitmap, const JPEGOptions& options)
     {
         if (setjmp(compressor.failed) != 0)
@@ -121,6 +131,8 @@ namespace {
         jpeg_start_compress(&compressor.library, TRUE);
         if (compressor.library.optimize_coding)
             compressor.statistics.replaceThoseOf(compressor.library);
+        if (bitmap.components == 1)
+            compressor.library.cconvert->color_convert = copyGreyRows;
         while (compressor.library.next_scanline < compressor.library.image_height)
             writeRows(compressor.library, bitmap);
         jpeg_finish_compress(&compressor.library);
