@@ -38,7 +38,8 @@ namespace {
             .width = fields["width"_L1].toInt(),
             .height = fields["height"_L1].toInt(),
             .bytes = fields["bytes"_L1].toInteger(),
-            .reduced = fields["scale"_L1].toDouble(askedScale) < askedScale };
+            .reduced = fields["scale"_L1].toDouble(askedScale) < askedScale,
+            .incomplete = fields["incomplete"_L1].toBool() };
     }
 
 } // namespace

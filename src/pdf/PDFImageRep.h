@@ -24,8 +24,8 @@ struct RenderedPage {
     int width = 0; // pixels
     int height = 0;
     qint64 bytes = 0;
-    bool reduced
-        = false; // drawn smaller than asked, because its bitmap would have passed the limit
+    bool reduced = false; // drawn smaller than asked: its bitmap would have passed the limit
+    bool incomplete = false; // something on the page could not be drawn and was left out
 };
 
 /// Draws the pages of one document to JPEG files, through a pool of workers of the PDF service.

@@ -48,16 +48,10 @@ std::optional<PDFServiceAnswer> PDFServiceProcess::start(const PDFServiceLimits&
     iChannel = LineChannel(iChild.start(program,
         { u"--memory-limit"_s, QString::number(limits.memoryMebibytes), u"--page-seconds"_s,
             QString::number(limits.pageSeconds) }));
-    iStarter = std::this_thread::get_id();
     iHasAnswered = false;
     if (iChannel.isOpen())
         return std::nullopt;
     return iChild.isStopped() ? stopped() : notStarted(iChild.error());
-}
-
-bool PDFServiceProcess::isReady() const
-{
-    return iStarter == std::this_thread::get_id() && iChannel.isIdle();
 }
 
 PDFServiceAnswer PDFServiceProcess::ask(const QJsonObject& request, std::chrono::seconds limit)

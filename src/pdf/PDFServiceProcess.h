@@ -8,7 +8,6 @@
 
 #include <chrono>
 #include <optional>
-#include <thread>
 
 namespace leafcast {
 
@@ -19,9 +18,8 @@ class PDFServiceProcess {
 public:
     /// None when it runs, else why not.
     std::optional<PDFServiceAnswer> start(const PDFServiceLimits& limits);
-    /// It runs and waits for a request of this thread. The kernel ends the service with the thread
-    /// that started it, so another thread starts its own.
-    bool isReady() const;
+    /// It runs and waits for a request.
+    bool isReady() const { return iChannel.isIdle(); }
 
     /// Sends the request, an object without its id, and waits for the answer.
     PDFServiceAnswer ask(const QJsonObject& request, std::chrono::seconds limit);
@@ -36,7 +34,6 @@ private:
 
     ChildProcess iChild;
     LineChannel iChannel;
-    std::thread::id iStarter;
     qint64 iRequestId = 0;
     bool iHasAnswered = false;
 };

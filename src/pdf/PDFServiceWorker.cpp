@@ -14,9 +14,6 @@ namespace {
     // The second try is for a service that was killed from outside, by a system short of memory.
     constexpr int triesToOpen = 2;
 
-    // A damaged file is read from end to end and mended, which takes longer than a page may.
-    constexpr int pagesThatOpeningMayTake = 2;
-
     PDFDocument::Source absolute(PDFDocument::Source source)
     {
         source.path = QFileInfo(source.path).absoluteFilePath();
@@ -57,7 +54,7 @@ PDFServiceAnswer PDFServiceWorker::startAndOpen()
         return *failure;
     const QJsonObject request{ { u"op"_s, u"open"_s }, { u"path"_s, iSource.path },
         { u"password"_s, iSource.password } };
-    return iProcess.ask(request, pageLimit() * pagesThatOpeningMayTake);
+    return iProcess.ask(request, pageLimit());
 }
 
 std::chrono::seconds PDFServiceWorker::pageLimit() const
