@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/ExitCode.h"
+
+#include <CLI/CLI.hpp>
+#include <functional>
+
+namespace leafcast {
+
+/// What the chosen subcommand does once the command line is parsed.
+using Action = std::function<ExitCode()>;
+
+/// Each registers one subcommand; when it is the one that was typed, its action is left in chosen.
+void addPublishCommand(CLI::App& program, Action& chosen);
+void addInspectCommand(CLI::App& program, Action& chosen);
+void addTemplatesCommand(CLI::App& program, Action& chosen);
+void addStylesCommand(CLI::App& program, Action& chosen);
+void addSettingsCommand(CLI::App& program, Action& chosen);
+
+/// A path or text as it was typed.
+QString fromArgument(const std::string& argument);
+
+} // namespace leafcast

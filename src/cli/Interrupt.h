@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// Ctrl-C and the polite kill: the first one asks the running command to stop, a second one ends
+/// the program.
+namespace leafcast::Interrupt {
+
+void listen();
+bool isRequested();
+
+} // namespace leafcast::Interrupt

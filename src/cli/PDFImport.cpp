@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "cli/PDFImport.h"
+
+#include "base/NotificationCenter.h"
+#include "cli/Command.h"
+#include "cli/Interrupt.h"
+#include "cli/ProgressBar.h"
+#include "pages/import/ImportPDFOperation.h"
+#include "pages/ImportNotifications.h"
+
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast {
+
+namespace {
+
+    constexpr qint32 importDPI = 144;
+    constexpr auto lookInterval = std::chrono::milliseconds(50);
+
+    // The worker thread counts, the main thread shows.
+    class ImportProgress {
+    public:
+        explicit ImportProgress(ProgressBar& bar)
+            : iBar(bar)
+            , iRegistration(NotificationCenter::defaultCenter().addObserver(ImportProgressInfoMSG,
+                  [this](const Notification& notification) { count(notification); }))
+        {
+        }
+
+        void show()
+        {
+            if (iTotal > 0)
+                iBar.show(iDone, iTotal);
+        }
+
+    private:
+        void count(const Notification& notification)
+        {
+            if (notification.userInfo[u"type"_s] != u"geneatePage"_s)
+                return;
+            iDone = notification.userInfo[u"pageIndex"_s].toInt();
+            iTotal = notification.userInfo[u"totalPage"_s].toInt();
+        }
+
+        ProgressBar& iBar;
+        std::atomic<int> iDone = 0;
+        std::atomic<int> iTotal = 0;
+        NotificationCenter::Registration iRegistration;
+    };
+
+    void runWatched(ImportPDFOperation& operation, ImportProgress& progress)
+    {
+        std::mutex mutex;
+        std::condition_variable ended;
+        bool finished = false;
+        const std::jthread worker([&] {
+            operation.main();
+            const std::lock_guard lock(mutex);
+            finished = true;
+            ended.notify_one();
+        });
+        std::unique_lock lock(mutex);
+        while (!ended.wait_for(lock, lookInterval, [&] { return finished; })) {
+            progress.show();
+            if (Interrupt::isRequested())
+                operation.cancel();
+        }
+    }
+
+} // namespace
+
+PageInput importPDF(const PublishOptions& options, const QString& password)
+{
+    const PDFImportOptions importOptions{ password, options.limits, options.jobs };
+    ImportPDFOperation operation(options.inputs().constFirst(), fromArgument(options.pages),
+        importDPI, options.quality(), importOptions);
+    operation.setImportLinks(!options.noLinks);
+    operation.setImportBookmarks(!options.noOutline);
+
+    ProgressBar bar(u"pages"_s,
+        options.quiet ? ProgressBar::Visibility::Never : ProgressBar::Visibility::WhenTerminal);
+    ImportProgress progress(bar);
+    runWatched(operation, progress);
+    bar.clear();
+
+    if (operation.isCancelled())
+        throw CommandFailure(ExitCode::Interrupted, u"interrupted; nothing was written"_s);
+    if (!operation.flashPageSource())
+        throw CommandFailure(ExitCode::InputUnreadable,
+            u"the pages of %1 can't be imported"_s.arg(options.inputs().constFirst()));
+    return { operation.flashPageSource(), operation.flashPagesAnnotation(),
+        operation.flashOutline(), {}, 0, 0 };
+}
+
+} // namespace leafcast

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "cli/PageInput.h"
+
+#include "base/NamedException.h"
+#include "cli/Command.h"
+#include "cli/ImageInput.h"
+#include "cli/OpenedPDF.h"
+#include "cli/PDFImport.h"
+#include "pages/FlashPageSourceImg.h"
+#include "pages/FlashPageSourcePDF.h"
+
+#include <algorithm>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QImageReader>
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast {
+
+namespace {
+
+    std::vector<qint32> pageNumbers(
+        const PublishOptions& options, const QString& input, int pageCount)
+    {
+        const QString range = fromArgument(options.pages);
+        if (pageCount == 0)
+            throw CommandFailure(ExitCode::InputUnreadable, u"%1 has no pages"_s.arg(input));
+        try {
+            const auto numbers = FlashPageSource::parsePageRange(range, pageCount);
+            const auto exists
+                = [pageCount](qint32 number) { return number >= 1 && number <= pageCount; };
+            if (std::none_of(numbers.begin(), numbers.end(), exists))
+                throw CommandFailure(ExitCode::WrongUsage,
+                    u"--pages %1: %2 has %3, and the range names none of them"_s.arg(
+                        range, input, pageCount == 1 ? u"1 page"_s : u"%1 pages"_s.arg(pageCount)));
+            return numbers;
+        } catch (const NamedException& exception) {
+            throw CommandFailure(
+                ExitCode::WrongUsage, u"--pages %1: %2"_s.arg(range, exception.reason()));
+        }
+    }
+
+    void reportPages(const FlashPageSourcePDF& source, PublishReport& report)
+    {
+        for (const PageReport& page : source.pageReports()) {
+            report.bytes += page.picture.bytes;
+            if (!page.picture.written)
+                report.missingPages.push_back({ page.pageNumber, page.picture.problem });
+            if (page.picture.reduced)
+                report.warnings.append(
+                    u"page %1 is very large and was drawn smaller, at %2 x %3 pixels"_s
+                        .arg(page.pageNumber)
+                        .arg(page.picture.width)
+                        .arg(page.picture.height));
+        }
+    }
+
+    void takeFirstPageSize(const PDFDocument& document, PageInput& input)
+    {
+        const auto page = document.pageAtIndex(0);
+        if (!page)
+            return;
+        input.pageWidth = static_cast<int>(page->boundsForBox(PDFBox::CropBox).width);
+        input.pageHeight = static_cast<int>(page->boundsForBox(PDFBox::CropBox).height);
+    }
+
+    PageInput readPDF(const PublishOptions& options, PublishReport& report)
+    {
+        const QString path = options.inputs().constFirst();
+        const QString password = options.passwordOptions.chosen();
+        const auto document = openPDF({ path, password, options.limits });
+        if (document->isRepaired())
+            report.warnings.append(u"%1 is damaged; what could be mended was read"_s.arg(path));
+        pageNumbers(options, path, document->pageCount());
+
+        PageInput input = importPDF(options, password);
+        reportPages(dynamic_cast<const FlashPageSourcePDF&>(*input.pageSource), report);
+        takeFirstPageSize(*document, input);
+        input.title
+            = document->title().isEmpty() ? QFileInfo(path).completeBaseName() : document->title();
+        return input;
+    }
+
+    PageInput readImages(const PublishOptions& options, PublishReport& report)
+    {
+        const QStringList paths = imagePaths(options.inputs());
+        const auto numbers
+            = pageNumbers(options, options.inputs().join(u", "_s), static_cast<int>(paths.size()));
+        const auto source = std::make_shared<FlashPageSourceImg>();
+        for (const qint32 number : numbers) {
+            if (number < 1 || number > paths.size()) {
+                report.missingPages.push_back(
+                    { number, u"there are only %1 images"_s.arg(paths.size()) });
+                continue;
+            }
+            source->addImgPageFromFile(paths.at(number - 1));
+            report.bytes += QFileInfo(paths.at(number - 1)).size();
+        }
+        source->generateNormalPages();
+
+        const QSize size = QImageReader(source->pages().front()->pageFilePath()).size();
+        const QString name = QFileInfo(QFileInfo(options.inputs().constFirst()).absoluteFilePath())
+                                 .completeBaseName();
+        return { source, nullptr, nullptr, name, size.width(), size.height() };
+    }
+
+    bool isAllImages(const QStringList& inputs)
+    {
+        return std::all_of(inputs.begin(), inputs.end(), isImageInput);
+    }
+
+} // namespace
+
+PageInput readPages(const PublishOptions& options, PublishReport& report)
+{
+    const QStringList inputs = options.inputs();
+    report.input = inputs.join(u", "_s);
+    if (inputs.size() > 1 && !isAllImages(inputs))
+        throw CommandFailure(ExitCode::WrongUsage,
+            u"%1: give one PDF, or only images and folders of them"_s.arg(report.input));
+    QElapsedTimer clock;
+    clock.start();
+    PageInput input = isAllImages(inputs) ? readImages(options, report) : readPDF(options, report);
+    report.importSeconds = static_cast<double>(clock.elapsed()) / 1000;
+    report.pageCount = static_cast<int>(input.pageSource->pages().size());
+    return input;
+}
+
+} // namespace leafcast

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "cli/PublishOptions.h"
+
+#include "cli/Command.h"
+#include "pages/ImportQuality.h"
+
+namespace leafcast {
+
+namespace {
+
+    std::map<std::string, int> levelsByName()
+    {
+        std::map<std::string, int> levels;
+        for (size_t level = 0; level < importQualities.size(); ++level)
+            levels[importQualities[level].name] = static_cast<int>(level);
+        return levels;
+    }
+
+    void addPageOptions(PublishOptions& options, CLI::App& command)
+    {
+        command.add_option("--pages", options.pages, "Pages to take, such as 1-3,7")
+            ->type_name("RANGE")
+            ->capture_default_str();
+        command
+            .add_option(
+                "--quality", options.qualityLevel, "0 to 4, or best, high, medium, low, smallest")
+            ->transform(CLI::CheckedTransformer(levelsByName(), CLI::ignore_case).description(""))
+            ->type_name("LEVEL")
+            ->envname("LEAFCAST_QUALITY")
+            ->capture_default_str();
+        command.add_flag("--no-links", options.noLinks, "Leave out the links");
+        command.add_flag("--no-outline", options.noOutline, "Leave out the table of contents");
+    }
+
+    void addBookOptions(PublishOptions& options, CLI::App& command)
+    {
+        command.add_option(
+            "--title", options.title, "Title of the book [the PDF's own, else the file's name]");
+        command.add_option(
+            "--name", options.name, "File name of the page, or of the package [index.html]");
+        command.add_flag(
+            "--app", options.app, "Write a double-clickable package NAME.app into the folder");
+    }
+
+    void addWorkOptions(PublishOptions& options, CLI::App& command)
+    {
+        command.add_option("--jobs", options.jobs, "Pages drawn at once [one a processor core]")
+            ->check(CLI::Range(1, 64))
+            ->envname("LEAFCAST_JOBS");
+        command
+            .add_option(
+                "--page-seconds", options.limits.pageSeconds, "Give up on a page after so long")
+            ->check(CLI::Range(1, 3600))
+            ->capture_default_str();
+        command
+            .add_option("--page-memory", options.limits.memoryMebibytes,
+                "Memory of a page's worker, in MiB")
+            ->check(CLI::Range(128, 65536))
+            ->capture_default_str();
+    }
+
+    void addOutputOptions(PublishOptions& options, CLI::App& command)
+    {
+        command.add_flag("--force", options.force, "Write over what is no book of ours");
+        command.add_flag("--open", options.open, "Open the book afterwards");
+        command.add_flag("-q,--quiet", options.quiet, "Say nothing but errors");
+        command.add_flag("-v,--verbose", options.verbose, "Show the log's warnings too");
+        command.add_flag("--json", options.json, "Write a report as JSON to standard output");
+    }
+
+} // namespace
+
+void PublishOptions::addTo(CLI::App& command)
+{
+    command
+        .add_option("INPUT", inputsAndOutput,
+            "A PDF, or images or a folder of them; last, the folder for the book")
+        ->required()
+        ->expected(2, CLI::detail::expected_max_vector_size)
+        ->option_text("... OUT_FOLDER");
+    addPageOptions(*this, command);
+    addBookOptions(*this, command);
+    templateOptions.addTo(command);
+    passwordOptions.addTo(command);
+    addWorkOptions(*this, command);
+    addOutputOptions(*this, command);
+}
+
+QStringList PublishOptions::inputs() const
+{
+    QStringList paths;
+    for (size_t i = 0; i + 1 < inputsAndOutput.size(); ++i)
+        paths.append(fromArgument(inputsAndOutput[i]));
+    return paths;
+}
+
+QString PublishOptions::outputFolder() const
+{
+    return fromArgument(inputsAndOutput.back());
+}
+
+int PublishOptions::quality() const
+{
+    return qualityOfLevel(qualityLevel);
+}
+
+} // namespace leafcast

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/PasswordOptions.h"
+#include "cli/TemplateChoice.h"
+#include "pdf/PDFServiceLimits.h"
+
+#include <optional>
+
+namespace leafcast {
+
+/// What `leafcast publish` was asked for, as typed.
+struct PublishOptions {
+    std::vector<std::string> inputsAndOutput; // the last one is the output folder
+    std::string pages = "ALL";
+    int qualityLevel = 0;
+    std::optional<std::string> title;
+    std::string name;
+    TemplateOptions templateOptions;
+    bool app = false;
+    bool noLinks = false;
+    bool noOutline = false;
+    PasswordOptions passwordOptions;
+    int jobs = 0; // 0: one a processor core
+    PDFServiceLimits limits;
+    bool force = false;
+    bool open = false;
+    bool quiet = false;
+    bool verbose = false;
+    bool json = false;
+
+    void addTo(CLI::App& command);
+
+    QStringList inputs() const;
+    QString outputFolder() const;
+    /// The JPEG quality (0 to 100) of the quality level.
+    int quality() const;
+};
+
+} // namespace leafcast

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "cli/PublishReport.h"
+
+#include <cmath>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocale>
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast {
+
+namespace {
+
+    constexpr int formatVersion = 1;
+
+    double milliseconds(double seconds)
+    {
+        return std::round(seconds * 1000) / 1000;
+    }
+
+    QJsonArray asJsonList(const std::vector<PublishReport::MissingPage>& pages)
+    {
+        QJsonArray list;
+        for (const auto& page : pages)
+            list.append(QJsonObject{ { u"number"_s, page.number }, { u"reason"_s, page.reason } });
+        return list;
+    }
+
+} // namespace
+
+QByteArray PublishReport::asJson() const
+{
+    const QJsonObject times{ { u"import"_s, milliseconds(importSeconds) },
+        { u"write"_s, milliseconds(writeSeconds) },
+        { u"total"_s, milliseconds(importSeconds + writeSeconds) } };
+    return QJsonDocument(QJsonObject{
+                             { u"version"_s, formatVersion },
+                             { u"complete"_s, isComplete() },
+                             { u"input"_s, input },
+                             { u"output"_s, output },
+                             { u"page"_s, page },
+                             { u"title"_s, title },
+                             { u"pages"_s, pageCount },
+                             { u"bytes"_s, bytes },
+                             { u"missingPages"_s, asJsonList(missingPages) },
+                             { u"missingFiles"_s, QJsonArray::fromStringList(missingFiles) },
+                             { u"warnings"_s, QJsonArray::fromStringList(warnings) },
+                             { u"seconds"_s, times },
+                         })
+        .toJson();
+}
+
+QString PublishReport::summary() const
+{
+    const QString pages = pageCount == 1 ? u"1 page"_s : u"%1 pages"_s.arg(pageCount);
+    const QString size = QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
+    return u"%1, %2, in %3 s"_s.arg(pages, size).arg(importSeconds + writeSeconds, 0, 'f', 1);
+}
+
+} // namespace leafcast

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+namespace leafcast {
+
+/// What a publication did; `--json` prints it.
+struct PublishReport {
+    struct MissingPage {
+        int number = 0; // of the page in the PDF, from 1
+        QString reason; // a clause, such as "it took longer than 30 s"
+    };
+
+    QString input;
+    QString output; // the folder or the package
+    QString page; // the file to open
+    QString title;
+    int pageCount = 0;
+    qint64 bytes = 0; // of the page pictures
+    std::vector<MissingPage> missingPages;
+    QStringList missingFiles; // of the book, relative to it
+    QStringList warnings;
+    double importSeconds = 0;
+    double writeSeconds = 0;
+
+    bool isComplete() const { return missingPages.empty() && missingFiles.isEmpty(); }
+    /// Version 1 of the report's format.
+    QByteArray asJson() const;
+    /// "16 pages, 2.1 MB, in 1.3 s"
+    QString summary() const;
+};
+
+} // namespace leafcast

@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+#include "cli/TemplateChoice.h"
+
+#include "cli/Command.h"
+#include "templates/ColorCategory.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast {
+
+namespace {
+
+    QString listed(const QStringList& names)
+    {
+        return names.isEmpty() ? u"none"_s : names.join(u", "_s);
+    }
+
+    QString unusableTemplate(const QString& name, const TemplateLoadOutcome& outcome)
+    {
+        const QString place = outcome.line > 0
+            ? u"%1, line %2"_s.arg(outcome.file).arg(outcome.line)
+            : outcome.file;
+        return u"the template \"%1\" can't be used: %2: %3"_s.arg(name, place, outcome.reason);
+    }
+
+    void applyStyle(FlashTemplate& flashTemplate, const QString& styleName)
+    {
+        const QStringList styles = FlashTemplate::availableStyles(flashTemplate.tmplName());
+        if (!styles.contains(styleName))
+            throw CommandFailure(ExitCode::WrongUsage,
+                u"the template \"%1\" has no style \"%2\"; it has: %3"_s.arg(
+                    flashTemplate.tmplName(), styleName, listed(styles)));
+        if (!flashTemplate.loadStyleByStyleName(styleName).readable)
+            throw CommandFailure(ExitCode::InputUnreadable,
+                u"the style \"%1\" can't be used: %2/tmplSetting.txt can't be read"_s.arg(
+                    styleName, FlashTemplate::stylePathFor(flashTemplate.tmplName(), styleName)));
+    }
+
+    QString whyUnreadable(const QString& path)
+    {
+        const QFileInfo info(path);
+        if (!info.exists())
+            return u"it does not exist"_s;
+        return info.isDir() ? u"it is a folder"_s : u"it can't be read"_s;
+    }
+
+    void applySettingsFile(FlashTemplate& flashTemplate, const QString& path, QStringList& warnings)
+    {
+        const SettingsImportReport report = flashTemplate.importPropertiesSettingsFrom(path);
+        if (!report.readable)
+            throw CommandFailure(ExitCode::InputUnreadable,
+                u"the settings file %1 can't be used: %2"_s.arg(path, whyUnreadable(path)));
+        if (report.recordCount == 0)
+            throw CommandFailure(ExitCode::InputUnreadable,
+                u"the settings file %1 can't be used: no line of it has the form KEY=VALUE"_s.arg(
+                    path));
+        if (report.encoding == TextEncoding::Latin1)
+            warnings.append(
+                u"the settings file %1 is not UTF-8; it was read as Latin-1"_s.arg(path));
+        for (const QString& key : report.unknownKeys)
+            warnings.append(
+                u"the settings file %1 has a value for \"%2\", which the template \"%3\" does not know"_s
+                    .arg(path, key, flashTemplate.tmplName()));
+    }
+
+    QString requireNumber(const QString& key, const QString& value)
+    {
+        bool isNumber = false;
+        value.toDouble(&isNumber);
+        if (!isNumber)
+            throw CommandFailure(
+                ExitCode::WrongUsage, u"--set %1=%2: the value must be a number"_s.arg(key, value));
+        return value;
+    }
+
+    QString requireChoice(const FlashTemplateProperty& property, const QString& value)
+    {
+        const QStringList choices = property.valueSource().split(u',');
+        if (!choices.contains(value))
+            throw CommandFailure(ExitCode::WrongUsage,
+                u"--set %1=%2: the value must be one of %3"_s.arg(
+                    property.key(), value, choices.join(u", "_s)));
+        return value;
+    }
+
+    QString requireFile(const QString& key, const QString& value)
+    {
+        if (value.isEmpty() || value.contains(u"STYLE_RESOURCE:"_s))
+            return value;
+        if (!QFileInfo(value).isFile())
+            throw CommandFailure(
+                ExitCode::InputUnreadable, u"--set %1=%2: there is no such file"_s.arg(key, value));
+        return QFileInfo(value).absoluteFilePath();
+    }
+
+    // People write colours as web pages do.
+    QString colourText(const QString& value)
+    {
+        return value.startsWith(u'#') ? u"0x"_s + value.mid(1).toLower() : value;
+    }
+
+    QString checkedValue(const FlashTemplateProperty& property, const QString& value)
+    {
+        switch (property.propertyType()) {
+        case pt_number:
+            return requireNumber(property.key(), value);
+        case pt_list:
+            return requireChoice(property, value);
+        case pt_file:
+            return requireFile(property.key(), value);
+        case pt_color:
+            return colourText(value);
+        default:
+            return value;
+        }
+    }
+
+    void assign(FlashTemplate& flashTemplate, const QString& assignment)
+    {
+        const qsizetype equals = assignment.indexOf(u'=');
+        if (equals < 1)
+            throw CommandFailure(ExitCode::WrongUsage,
+                u"--set %1: it must have the form KEY=VALUE"_s.arg(assignment));
+        const QString key = assignment.left(equals);
+        const auto property = flashTemplate.propertyForKey(key);
+        if (!property)
+            throw CommandFailure(ExitCode::WrongUsage,
+                u"--set %1: the template \"%2\" has no property of that name; see: leafcast settings show"_s
+                    .arg(key, flashTemplate.tmplName()));
+        flashTemplate.setPropertyValue(key, checkedValue(*property, assignment.mid(equals + 1)));
+    }
+
+} // namespace
+
+void TemplateOptions::addTo(CLI::App& command)
+{
+    command.add_option("--template", templateName, "Template of the book")
+        ->envname("LEAFCAST_TEMPLATE")
+        ->capture_default_str();
+    command
+        .add_option("--style", styleName, "Style of the template; see: leafcast styles TEMPLATE")
+        ->envname("LEAFCAST_STYLE");
+    command.add_option("--settings", settingsFile, "Settings file to apply after the style");
+    command.add_option("--set", assignments, "Set one property; may be repeated, applied last")
+        ->type_name("KEY=VALUE")
+        ->expected(1)
+        ->take_all();
+}
+
+void requireTemplate(const QString& templateName)
+{
+    const QStringList names = FlashTemplate::availableTemplates();
+    if (!names.contains(templateName))
+        throw CommandFailure(ExitCode::WrongUsage,
+            u"there is no template \"%1\"; there are: %2"_s.arg(templateName, listed(names)));
+}
+
+std::shared_ptr<FlashTemplate> loadChosenTemplate(
+    const TemplateOptions& options, QStringList& warnings)
+{
+    const QString name = fromArgument(options.templateName);
+    requireTemplate(name);
+    const auto [flashTemplate, outcome] = FlashTemplate::open(name);
+    if (!flashTemplate)
+        throw CommandFailure(ExitCode::InputUnreadable, unusableTemplate(name, outcome));
+    if (!options.styleName.empty())
+        applyStyle(*flashTemplate, fromArgument(options.styleName));
+    if (!options.settingsFile.empty())
+        applySettingsFile(*flashTemplate, fromArgument(options.settingsFile), warnings);
+    for (const std::string& assignment : options.assignments)
+        assign(*flashTemplate, fromArgument(assignment));
+    return flashTemplate;
+}
+
+} // namespace leafcast

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "cli/CommandLine.h"
+
+#include <QImage>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast {
+
+namespace {
+
+    constexpr int patienceMilliseconds = 60000;
+    constexpr int dotsPerMeterAt72Dpi = 2835;
+
+    void prepare(QProcess& process, const QString& folder, const QStringList& variables)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const QString& variable : variables)
+            environment.insert(variable.section(u'=', 0, 0), variable.section(u'=', 1));
+        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(folder);
+    }
+
+    Outcome finish(QProcess& process)
+    {
+        EXPECT_TRUE(process.waitForFinished(patienceMilliseconds));
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        return { process.exitCode(), process.readAllStandardOutput(),
+            process.readAllStandardError() };
+    }
+
+} // namespace
+
+QJsonObject Outcome::json() const
+{
+    return QJsonDocument::fromJson(output).object();
+}
+
+Outcome CommandLineTest::run(const QStringList& arguments, const QStringList& variables) const
+{
+    QProcess process;
+    prepare(process, iFolder.path(), variables);
+    process.start(QStringLiteral(LEAFCAST_PROGRAM), arguments);
+    return finish(process);
+}
+
+Outcome CommandLineTest::runInterrupted(const QStringList& arguments) const
+{
+    QProcess process;
+    prepare(process, iFolder.path(), {});
+    process.start(QStringLiteral(LEAFCAST_PROGRAM), arguments);
+    EXPECT_TRUE(process.waitForStarted());
+    QThread::msleep(300);
+    kill(static_cast<pid_t>(process.processId()), SIGINT);
+    return finish(process);
+}
+
+QString CommandLineTest::writePDF(const QString& name, const PDFBuilder& builder) const
+{
+    return writeTestFile(at(name), builder.build());
+}
+
+QString CommandLineTest::writeNumberedPDF(const QString& name, int pages) const
+{
+    PDFBuilder builder;
+    for (int i = 1; i <= pages; ++i)
+        builder.addPage({ .content = PDFBuilder::showText(QByteArray::number(i), 200, 400, 96) });
+    return writePDF(name, builder);
+}
+
+QString CommandLineTest::writePicture(const QString& name, int width, int height) const
+{
+    QImage picture(width, height, QImage::Format_RGB32);
+    picture.fill(Qt::darkGreen);
+    picture.setDotsPerMeterX(dotsPerMeterAt72Dpi);
+    picture.setDotsPerMeterY(dotsPerMeterAt72Dpi);
+    QDir().mkpath(QFileInfo(at(name)).path());
+    EXPECT_TRUE(picture.save(at(name)));
+    return at(name);
+}
+
+} // namespace leafcast
