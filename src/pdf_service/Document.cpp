@@ -3,7 +3,6 @@
 
 #include "pdf_service/ColourHooks.h"
 #include "pdf_service/InputFile.h"
-#include "pdf_service/ProfileSearch.h"
 #include "pdf_service/TextString.h"
 
 using namespace Qt::StringLiterals;
@@ -23,7 +22,8 @@ Document::Document(const Library& library, const QString& path, const QString& p
         authenticate(password);
         iPageTree.load(library, iDocument);
         readTitle();
-        preparePrintColours();
+        iPrintColours = std::make_unique<PrintColours>(library, iDocument);
+        setPrintColours(iPrintColours.get());
     } catch (...) {
         pdf_drop_document(context(), iDocument);
         throw;
@@ -32,7 +32,7 @@ Document::Document(const Library& library, const QString& path, const QString& p
 
 Document::~Document()
 {
-    setPrintColour(nullptr);
+    setPrintColours(nullptr);
     iNamedDestinations.reset();
     pdf_drop_document(context(), iDocument);
 }
@@ -69,14 +69,6 @@ void Document::readTitle()
     });
     if (read && bytes != nullptr)
         iTitle = textFromPDFString(bytes, length).trimmed();
-}
-
-void Document::preparePrintColours()
-{
-    iPrintColour = std::make_unique<PrintColour>(outputIntentProfile(iLibrary, iDocument));
-    if (!iPrintColour->hasProfile())
-        iPrintColour = std::make_unique<PrintColour>(installedProfile());
-    setPrintColour(iPrintColour.get());
 }
 
 const NamedDestinations& Document::namedDestinations() const

@@ -6,7 +6,7 @@
 #include "pdf_service/PageGeometry.h"
 #include "pdf_service/PageLabels.h"
 #include "pdf_service/PageTree.h"
-#include "pdf_service/PrintColour.h"
+#include "pdf_service/PrintColours.h"
 
 #include <memory>
 #include <mupdf/pdf.h>
@@ -48,13 +48,12 @@ private:
     void openFile(const QString& path);
     void authenticate(const QString& password) const;
     void readTitle();
-    void preparePrintColours();
 
     const Library& iLibrary;
     pdf_document* iDocument = nullptr;
     PageTree iPageTree;
     QString iTitle;
-    std::unique_ptr<PrintColour> iPrintColour;
+    std::unique_ptr<PrintColours> iPrintColours;
     mutable std::optional<PageLabels> iLabels; // read when first asked for
     mutable std::optional<NamedDestinations> iNamedDestinations;
 };

@@ -2,7 +2,7 @@
 #include "pdf_service/PagePainter.h"
 
 #include "pdf_service/ColourProbe.h"
-#include "pdf_service/TolerantDevice.h"
+#include "pdf_service/DamageWatch.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,6 +15,7 @@ namespace {
 
     constexpr double LongestSide = 65'500; // JPEG_MAX_DIMENSION
     constexpr double WorthShrinking = 32.0 * 1024 * 1024;
+    constexpr size_t KeptBytes = size_t{ 32 } << 20U;
 
     // A page of 612.0001 points is not worth a further row of pixels.
     double pixels(double points, double scale)
@@ -39,13 +40,25 @@ namespace {
         return scale;
     }
 
+    // Keeps what an ordinary page needs for the next one, but not the memory of a giant.
+    void reserve(std::vector<unsigned char>& pixels, size_t bytes)
+    {
+        if (pixels.size() >= bytes && pixels.size() <= KeptBytes)
+            return;
+        pixels = {}; // before the new block is asked for
+        try {
+            pixels.resize(bytes);
+        } catch (const std::bad_alloc&) {
+            throw ServiceError(ErrorCode::Memory, u"its picture needs too much memory"_s);
+        }
+    }
+
     void prepare(Bitmap& bitmap, const PageGeometry& page, double scale, int components)
     {
         bitmap.width = static_cast<int>(pixels(page.displayedWidth(), scale));
         bitmap.height = static_cast<int>(pixels(page.displayedHeight(), scale));
         bitmap.components = components;
-        if (bitmap.pixels.size() < bitmap.bytes())
-            bitmap.pixels.resize(bitmap.bytes());
+        reserve(bitmap.pixels, bitmap.bytes());
         std::fill_n(bitmap.pixels.begin(), bitmap.bytes(), static_cast<unsigned char>(255));
     }
 
@@ -69,7 +82,7 @@ namespace {
         const Library& library;
         HeldPixmap pixmap;
         HeldDevice device;
-        bool damaged = false;
+        bool incomplete = false;
 
         Drawing(const LoadedPage& loaded, Bitmap& bitmap)
             : page(loaded)
@@ -81,27 +94,29 @@ namespace {
                 pixmap.take(pixmapOver(library.context(), bitmap));
                 device.take(fz_new_draw_device(library.context(), fz_identity, pixmap.get()));
             });
-            tolerateDamage(device.get(), &damaged);
         }
 
         // Draws as much of the page as can be read.
         void run(const Bitmap& bitmap)
         {
+            const DamageWatch watch(device.get());
             const double width = bitmap.width;
             const double height = bitmap.height;
             if (!library.attempt([&] { page.runContents(device.get(), width, height); }))
-                contentsFailed(bitmap);
+                keepUnless(isBlank(bitmap));
             if (!library.attempt([&] { page.runAnnotations(device.get(), width, height); }))
-                damaged = true;
+                keepUnless(false);
+            incomplete |= watch.damaged();
             library.guarded(
                 ErrorCode::Page, [&] { fz_close_device(library.context(), device.get()); });
         }
 
-        void contentsFailed(const Bitmap& bitmap)
+        // Part of a page is better than none, unless there is nothing of it or memory ran out.
+        void keepUnless(bool nothing)
         {
-            if (fz_caught(library.context()) == FZ_ERROR_MEMORY || isBlank(bitmap))
+            if (nothing || fz_caught(library.context()) == FZ_ERROR_MEMORY)
                 library.guarded(ErrorCode::Page, [&] { fz_rethrow(library.context()); });
-            damaged = true;
+            incomplete = true;
         }
     };
 
@@ -112,7 +127,7 @@ namespace {
         drawing.run(bitmap);
         if (colour == ColourNeed::Unknown && !hasColour(bitmap))
             convertToGrey(bitmap);
-        return { scale, drawing.damaged };
+        return { scale, drawing.incomplete };
     }
 
 } // namespace

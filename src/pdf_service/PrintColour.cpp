@@ -16,8 +16,7 @@ namespace {
 
     bool isCMYKProfile(cmsHPROFILE profile)
     {
-        return profile != nullptr && cmsGetColorSpace(profile) == cmsSigCmykData
-            && cmsIsIntentSupported(profile, INTENT_RELATIVE_COLORIMETRIC, LCMS_USED_AS_INPUT);
+        return profile != nullptr && cmsGetColorSpace(profile) == cmsSigCmykData;
     }
 
     unsigned char toByte(float value)

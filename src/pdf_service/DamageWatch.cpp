@@ -1,5 +1,14 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
-#include "pdf_service/TolerantDevice.h"
+#include "pdf_service/DamageWatch.h"
+
+#include <mupdf/pdf.h>
+
+// A picture is also left out, with --wrap, when already its description can't be read: only a
+// syntax error lets the library's interpreter go on with what follows.
+extern "C" {
+fz_image* __real_pdf_load_image(fz_context*, pdf_document*, pdf_obj*);
+fz_image* __wrap_pdf_load_image(fz_context*, pdf_document*, pdf_obj*);
+}
 
 namespace leafcast::service {
 
@@ -10,8 +19,15 @@ namespace {
         decltype(fz_device::fill_image) fillImage;
         decltype(fz_device::fill_image_mask) fillImageMask;
         decltype(fz_device::fill_shade) fillShade;
-        bool* damaged;
+        bool damaged;
     } drawing;
+
+    void noteUnlessFatal(fz_context* context)
+    {
+        fz_rethrow_if(context, FZ_ERROR_MEMORY);
+        fz_rethrow_if(context, FZ_ERROR_ABORT); // how a colour ends the search for colour
+        drawing.damaged = true;
+    }
 
     template <typename Call> [[gnu::noinline]] void tolerate(fz_context* context, Call call)
     {
@@ -21,9 +37,7 @@ namespace {
         }
         fz_catch(context)
         {
-            fz_rethrow_if(context, FZ_ERROR_MEMORY);
-            fz_rethrow_if(context, FZ_ERROR_ABORT);
-            *drawing.damaged = true;
+            noteUnlessFatal(context);
         }
     }
 
@@ -51,12 +65,37 @@ namespace {
 
 } // namespace
 
-void tolerateDamage(fz_device* device, bool* damaged)
+DamageWatch::DamageWatch(fz_device* device)
 {
-    drawing = { device->fill_image, device->fill_image_mask, device->fill_shade, damaged };
+    drawing = { device->fill_image, device->fill_image_mask, device->fill_shade, false };
     device->fill_image = fillImage;
     device->fill_image_mask = fillImageMask;
     device->fill_shade = fillShade;
 }
 
+DamageWatch::~DamageWatch()
+{
+    drawing = {};
+}
+
+bool DamageWatch::damaged() const
+{
+    return drawing.damaged;
+}
+
 } // namespace leafcast::service
+
+fz_image* __wrap_pdf_load_image(fz_context* context, pdf_document* document, pdf_obj* object)
+{
+    fz_image* image = nullptr;
+    fz_try(context)
+    {
+        image = __real_pdf_load_image(context, document, object);
+    }
+    fz_catch(context)
+    {
+        leafcast::service::noteUnlessFatal(context);
+        fz_throw(context, FZ_ERROR_SYNTAX, "a picture can't be read");
+    }
+    return image;
+}
