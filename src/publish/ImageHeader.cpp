@@ -36,7 +36,7 @@ namespace {
         constexpr int dotsPerCentimetre = 2;
         if (head.size() < 18 || head.sliced(6, 5) != QByteArray("JFIF", 5))
             return {};
-        const int unit = head.at(13);
+        const auto unit = bigEndianAt<quint8>(head, 13);
         if (unit != dotsPerInch && unit != dotsPerCentimetre)
             return {};
         const double factor = unit == dotsPerCentimetre ? centimetresPerInch : 1;
