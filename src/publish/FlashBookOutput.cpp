@@ -2,6 +2,7 @@
 #include "publish/FlashBookOutput.h"
 
 #include "base/FileSteps.h"
+#include "base/Log.h"
 #include "base/ResourceFolder.h"
 #include "publish/ReaderDataFile.h"
 #include "templates/ColorCategory.h"
@@ -72,10 +73,20 @@ void FlashBookOutput::outputPlayer() const
     FileSteps::makeFolder(scripts);
     iFlashTemplate->copyBookJSFile(scripts + u"/jquery-1.7.2.min.js"_s);
     iFlashTemplate->copyStyleDirToDir(inBook(u"style"_s));
+    copyServer();
+}
+
+void FlashBookOutput::copyServer() const
+{
+    const QString source = GetServerPath();
+    const QString copy = inBook(u"iPadPreview"_s);
     // Deliberate: a server from an earlier output stays.
-    const QString server = inBook(u"iPadPreview"_s);
-    if (!FileSteps::exists(server))
-        FileSteps::copyFile(GetServerPath(), server);
+    if (FileSteps::exists(copy))
+        return;
+    if (source.isEmpty())
+        LOG_WARN("FlashBookOutput", u"there is no preview server to copy"_s);
+    else
+        FileSteps::copyFile(source, copy);
 }
 
 void FlashBookOutput::outputReaderData() const
@@ -87,8 +98,8 @@ void FlashBookOutput::outputReaderData() const
     }
     const auto imageURL
         = [this](const FlashPage& page) { return joined(iResourceFolder, getNormalPageURL(page)); };
-    file.write(
-        { *iFlashPageSource, iFlashPagesAnnotations != nullptr, iFlashOutline.get(), imageURL });
+    file.write({ *iFlashPageSource, iFlashPagesAnnotations != nullptr, iFlashOutline.get(),
+        imageURL, iWorkerCount });
 }
 
 bool FlashBookOutput::wantsReaderData() const

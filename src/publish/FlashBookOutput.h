@@ -90,10 +90,13 @@ public:
     {
         iFlashOutline = std::move(outline);
     }
+    /// Processes that read a PDF's text; 0 is one a processor core.
+    void setWorkerCount(int count) { iWorkerCount = count; }
 
 private:
     void outputHTMLPage() const;
     void outputPlayer() const;
+    void copyServer() const;
     void outputReaderData() const;
     QString configurationText() const;
     void storePageSize() const;
@@ -118,6 +121,7 @@ private:
     QString iSearchInfoFolder = QStringLiteral("search");
     QString iAnnotationFilesFolder = QStringLiteral("pageConfig");
     bool iZoomedPageSameAsNormalPage = true;
+    int iWorkerCount = 0;
 };
 
 } // namespace leafcast

@@ -24,16 +24,22 @@ namespace {
         return readerOutline(book.outline->items(), BookPlaces(book.pageSource.normalPages()));
     }
 
+    void writeContent(QSaveFile& file, const ReaderBook& book)
+    {
+        ReaderPages pages(book);
+        ReaderDataWriter writer(file);
+        while (!pages.atEnd() && !book.pageSource.stop())
+            writer.addPage(pages.next());
+        writer.finish(outlineOf(book));
+        if (!pages.atEnd())
+            file.cancelWriting();
+    }
+
     bool writeTo(const QString& path, const ReaderBook& book)
     {
         QSaveFile file(path);
-        if (file.open(QIODevice::WriteOnly)) {
-            ReaderPages pages(book);
-            ReaderDataWriter writer(file);
-            while (!pages.atEnd())
-                writer.addPage(pages.next());
-            writer.finish(outlineOf(book));
-        }
+        if (file.open(QIODevice::WriteOnly))
+            writeContent(file, book);
         if (file.commit())
             return true;
         LOG_WARN("ReaderDataFile", u"can't write %1: %2"_s.arg(path, file.errorString()));
@@ -85,7 +91,7 @@ bool ReaderDataFile::place(const ReaderBook& book) const
     if (kept.isEmpty())
         return writeTo(iPath, book);
     if (!QFileInfo(kept).isFile() && !writeTo(kept, book))
-        return writeTo(iPath, book);
+        return !book.pageSource.stop() && writeTo(iPath, book);
     return FileSteps::replaceFile(kept, iPath);
 }
 

@@ -6,8 +6,8 @@
 namespace leafcast {
 
 /// The file "files/search/book.js" of a book. A PDF's text is read once: what was written is kept
-/// beside the page source's pictures, and an output of the same pages copies it. Failures are
-/// logged and leave no file.
+/// beside the page source's pictures, and an output of the same pages copies it. Failures, and the
+/// page source's stop flag, are logged and leave no file.
 class ReaderDataFile {
 public:
     explicit ReaderDataFile(const QString& path)

@@ -38,7 +38,7 @@ ReaderPages::ReaderPages(const ReaderBook& book)
     std::erase(iPages, nullptr);
     if (iDocument)
         iTextReader = std::make_unique<PDFTextReader>(
-            iDocument->source(), indicesOfPages(iPages, *iDocument));
+            iDocument->source(), indicesOfPages(iPages, *iDocument), book.workers);
 }
 
 ReaderPages::~ReaderPages() = default;

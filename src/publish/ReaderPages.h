@@ -20,6 +20,7 @@ struct ReaderBook {
     bool withLinks = false;
     const FlashOutline* outline = nullptr; // may be none
     std::function<QString(const FlashPage&)> imageURL; // relative to the book folder
+    int workers = 0; // processes that read the text; 0: one a processor core
 };
 
 /// Makes the reader data of a book's pages, one after another, so that few pages' texts are in

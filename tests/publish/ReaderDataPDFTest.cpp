@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "pages/FlashPageSourcePDF.h"
 #include "publish/BookFixture.h"
+#include "support/LogCapture.h"
 #include "support/PDFBuilder.h"
 
 #include <gtest/gtest.h>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -141,4 +143,17 @@ TEST_F(ReaderDataPDFTest, ReadsTheDocumentOnceForSeveralOutputs)
     auto outline = std::make_shared<FlashOutline>();
     outline->items().push_back(std::make_shared<FlashOutlineItem>());
     EXPECT_EQ(bookData(outline)[u"outline"].toArray().size(), 1);
+}
+
+TEST_F(ReaderDataPDFTest, LeavesNoHalfFileWhenItIsStopped)
+{
+    PDFBuilder pdf;
+    pdf.addPage();
+    import(pdf, u"ALL"_s);
+    ASSERT_FALSE(bookData().isEmpty());
+    QFile::remove(source->pages().front()->pageFilePath());
+    source->setStop(true);
+    const LogCapture log;
+    EXPECT_TRUE(bookData().isEmpty());
+    EXPECT_FALSE(QFileInfo::exists(inBook(u"files/search"_s)));
 }
