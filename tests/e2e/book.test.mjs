@@ -117,6 +117,20 @@ describe('a published book', () => {
     await page.close();
   });
 
+  it('holds the chosen pages only, and the links that lead to them', async () => {
+    copies.push(publishMagazine('--pages', '2,12-14', '--title', 'A & B'));
+    const page = await openBook(browser, copies.at(-1));
+    assert.equal(await page.title(), 'A & B');
+    assert.equal(await position(page), '1 / 4');
+    assert.deepEqual(await drawnPages(page), [2]);
+    const targets = await page.locator('.link').evaluateAll((links) => links.map((link) => link.getAttribute('href')));
+    assert.deepEqual(targets, ['#page/2', '#page/3', '#page/4']);
+    await page.keyboard.press('ArrowRight');
+    assert.deepEqual(await drawnPages(page), [12, 13]);
+    assert.deepEqual(page.troubles, []);
+    await page.close();
+  });
+
   it('works from the configuration script alone', async () => {
     const page = await openChanged({ files: { 'files/search/book.js': '' }, removed: ['files/page/5.jpg'] });
     assert.deepEqual(await drawnPages(page), [1]);
