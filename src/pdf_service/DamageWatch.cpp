@@ -88,6 +88,7 @@ bool DamageWatch::damaged() const
 fz_image* __wrap_pdf_load_image(fz_context* context, pdf_document* document, pdf_obj* object)
 {
     fz_image* image = nullptr;
+    fz_var(image);
     fz_try(context)
     {
         image = __real_pdf_load_image(context, document, object);

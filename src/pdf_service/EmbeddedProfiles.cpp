@@ -51,6 +51,7 @@ pdf_obj* EmbeddedProfiles::profileStream(pdf_obj* array) const
 fz_buffer* EmbeddedProfiles::load(pdf_obj* stream) const
 {
     fz_buffer* buffer = nullptr;
+    fz_var(buffer);
     fz_try(iContext)
     {
         buffer = pdf_load_stream(iContext, stream);
