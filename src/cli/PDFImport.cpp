@@ -3,16 +3,12 @@
 
 #include "base/NotificationCenter.h"
 #include "cli/Command.h"
-#include "cli/Interrupt.h"
 #include "cli/ProgressBar.h"
+#include "cli/WatchedWork.h"
 #include "pages/import/ImportPDFOperation.h"
 #include "pages/ImportNotifications.h"
 
 #include <atomic>
-#include <chrono>
-#include <condition_variable>
-#include <mutex>
-#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -21,7 +17,6 @@ namespace leafcast {
 namespace {
 
     constexpr qint32 importDPI = 144;
-    constexpr auto lookInterval = std::chrono::milliseconds(50);
 
     // The worker thread counts, the main thread shows.
     class ImportProgress {
@@ -54,25 +49,6 @@ namespace {
         NotificationCenter::Registration iRegistration;
     };
 
-    void runWatched(ImportPDFOperation& operation, ImportProgress& progress)
-    {
-        std::mutex mutex;
-        std::condition_variable ended;
-        bool finished = false;
-        const std::jthread worker([&] {
-            operation.main();
-            const std::lock_guard lock(mutex);
-            finished = true;
-            ended.notify_one();
-        });
-        std::unique_lock lock(mutex);
-        while (!ended.wait_for(lock, lookInterval, [&] { return finished; })) {
-            progress.show();
-            if (Interrupt::isRequested())
-                operation.cancel();
-        }
-    }
-
 } // namespace
 
 PageInput importPDF(const PublishOptions& options, const QString& password)
@@ -86,7 +62,9 @@ PageInput importPDF(const PublishOptions& options, const QString& password)
     ProgressBar bar(u"pages"_s,
         options.quiet ? ProgressBar::Visibility::Never : ProgressBar::Visibility::WhenTerminal);
     ImportProgress progress(bar);
-    runWatched(operation, progress);
+    WatchedWork{
+        [&] { operation.main(); }, [&] { progress.show(); }, [&] { operation.cancel(); }
+    }.run();
     bar.clear();
 
     if (operation.isCancelled())

@@ -7,6 +7,7 @@
 #include "cli/PageInput.h"
 #include "cli/PublishOptions.h"
 #include "cli/PublishReport.h"
+#include "cli/WatchedWork.h"
 #include "publish/BookCheck.h"
 #include "publish/FlashBookOutput.h"
 #include "publish/FlashBookOutputApp.h"
@@ -89,10 +90,16 @@ namespace {
     {
         QElapsedTimer clock;
         clock.start();
-        writer.ouputTheBook();
+        WatchedWork{
+            .work = [&] { writer.ouputTheBook(); },
+            .cancel = [&] { writer.flashPageSource()->setStop(true); }
+        }.run();
         report.writeSeconds = static_cast<double>(clock.elapsed()) / 1000;
         report.output = QFileInfo(writer.outputFileName()).absoluteFilePath();
         report.page = QFileInfo(writer.outputHTMLFileName()).absoluteFilePath();
+        if (Interrupt::isRequested())
+            throw CommandFailure(ExitCode::Interrupted,
+                u"interrupted; the book in %1 may be incomplete"_s.arg(report.output));
     }
 
     bool isReported(const PublishReport& report, int pageNumber)
@@ -147,6 +154,7 @@ namespace {
         writer->setHTMLConfig(htmlConfig(options, input));
         writer->setFlashPagesAnnotations(input.links);
         writer->setFlashOutline(input.outline);
+        writer->setWorkerCount(options.jobs);
         writeBook(*writer, report);
         checkBook(*writer, report);
         report.title = htmlTitle(options, input);

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "base/FileSteps.h"
+#include "base/ResourceFolder.h"
 #include "cli/CommandLine.h"
 
 #include <QJsonArray>
@@ -98,6 +100,43 @@ TEST_F(PublishFailure, TemplatesStylesAndSettings)
     expectFailure(
         base + QStringList{ u"--set"_s, u"LogoFile=missing.png"_s }, 3, { "missing.png" });
     expectFailure(base + QStringList{ u"--name"_s, u"a/b"_s }, 2, { "a/b" });
+}
+
+TEST_F(PublishFailure, DamagedTemplatesAndStyles)
+{
+    writeNumberedPDF(u"in.pdf"_s, 1);
+    const QString resources = at(u"resources"_s);
+    ASSERT_TRUE(FileSteps::copyFolder(ResourceFolder::path(), resources));
+    const QString library = resources + u"/AppFiles/"_s;
+    QFile::remove(library + u"Styles/float/Night/tmplSetting.txt"_s);
+    writeTestFile(library + u"Templates/torn/flashTemplate.xml"_s, "<t>\n<info></info></t>");
+    writeTestFile(library + u"Templates/words/flashTemplate.xml"_s, "no template");
+    const QStringList variables{ u"LEAFCAST_RESOURCES="_s + resources };
+
+    const auto expectNamed = [&](const QStringList& options, const QByteArray& file) {
+        const Outcome outcome
+            = run(QStringList{ u"publish"_s, u"in.pdf"_s, u"book"_s } + options, variables);
+        EXPECT_EQ(outcome.status, 3) << outcome.errors.toStdString();
+        EXPECT_EQ(outcome.errors.count('\n'), 1);
+        EXPECT_TRUE(outcome.errors.contains(file)) << outcome.errors.toStdString();
+    };
+    expectNamed({ u"--style"_s, u"Night"_s }, "Night/tmplSetting.txt");
+    expectNamed({ u"--template"_s, u"torn"_s }, "torn/flashTemplate.xml, line 2");
+    expectNamed({ u"--template"_s, u"words"_s }, "words/flashTemplate.xml");
+    EXPECT_FALSE(QFileInfo::exists(at(u"book"_s)));
+}
+
+TEST_F(PublishFailure, ASettingsFileInUTF16IsRead)
+{
+    writeNumberedPDF(u"in.pdf"_s, 1);
+    const QString text = u"\uFEFFbookTitle=Stra\u00DFe\n"_s;
+    writeTestFile(at(u"utf16.txt"_s),
+        QByteArray(reinterpret_cast<const char*>(text.utf16()), text.size() * 2));
+    EXPECT_EQ(
+        run({ u"publish"_s, u"in.pdf"_s, u"book"_s, u"--settings"_s, u"utf16.txt"_s }).status, 0);
+    EXPECT_TRUE(readTestFile(at(u"book/javascript/main.js"_s))
+                    .contains("bookTitle:\"Stra\xC3\x9F"
+                              "e\""));
 }
 
 TEST_F(PublishFailure, OutputsThatCannotBeWritten)
