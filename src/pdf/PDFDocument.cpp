@@ -169,19 +169,26 @@ bool PDFDocument::isEncrypted() const
     return iSession->description()["encrypted"_L1].toBool();
 }
 
+bool PDFDocument::has(int index) const
+{
+    return index >= 0 && index < pageCount();
+}
+
 std::optional<PDFPage> PDFDocument::pageAtIndex(int index) const
 {
-    return index >= 0 && index < pageCount() ? iSession->page(index) : std::nullopt;
+    return has(index) ? iSession->page(index) : std::nullopt;
 }
 
 std::vector<PDFAnnotation> PDFDocument::annotationsOfPage(int index) const
 {
-    return PDFAnswers::annotations(iSession->ask(u"annotations"_s, index));
+    return has(index) ? PDFAnswers::annotations(iSession->ask(u"annotations"_s, index))
+                      : std::vector<PDFAnnotation>();
 }
 
 std::vector<PDFTextLine> PDFDocument::textOfPage(int index) const
 {
-    return PDFAnswers::textLines(iSession->ask(u"text"_s, index));
+    return has(index) ? PDFAnswers::textLines(iSession->ask(u"text"_s, index))
+                      : std::vector<PDFTextLine>();
 }
 
 std::optional<PDFOutline> PDFDocument::outlineRoot() const

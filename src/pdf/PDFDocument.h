@@ -37,7 +37,7 @@ public:
     struct OpenResult {
         std::shared_ptr<PDFDocument> document; // none when error is set
         PDFOpenError error = PDFOpenError::None;
-        QString reason{}; // a clause for people, such as "it is not a PDF"
+        QString reason{}; // a clause for people, such as "it is empty"
     };
 
     [[nodiscard]] static OpenResult open(const Source& source);
@@ -51,7 +51,8 @@ public:
 
     /// None for an index outside the document, or a page that can't be read.
     std::optional<PDFPage> pageAtIndex(int index) const;
-    /// In the page's order. Empty, with one log line, when the page can't be read.
+    /// In the page's order. Empty, with one log line, when the page can't be read; just empty for
+    /// an index outside the document.
     std::vector<PDFAnnotation> annotationsOfPage(int index) const;
     std::vector<PDFTextLine> textOfPage(int index) const;
     /// None when the document has no outline.
@@ -60,6 +61,7 @@ public:
 private:
     class Session;
     explicit PDFDocument(std::unique_ptr<Session> session);
+    bool has(int index) const;
 
     std::unique_ptr<Session> iSession;
 };

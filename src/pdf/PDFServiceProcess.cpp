@@ -81,12 +81,17 @@ std::optional<PDFServiceAnswer> PDFServiceProcess::parsed(const QByteArray& line
     return PDFServiceAnswer{ .outcome = Outcome::Answered, .fields = fields };
 }
 
-PDFServiceAnswer PDFServiceProcess::failed(LineChannel::Result result, std::chrono::seconds limit)
+ChildProcess::Ending PDFServiceProcess::end()
 {
     iChannel = LineChannel();
+    return iChild.end();
+}
+
+PDFServiceAnswer PDFServiceProcess::failed(LineChannel::Result result, std::chrono::seconds limit)
+{
     if (result == LineChannel::Result::Closed)
         return died();
-    iChild.end();
+    end();
     if (result == LineChannel::Result::TimedOut)
         return failure(Outcome::TimedOut, u"it took longer than %1 seconds"_s.arg(limit.count()));
     return failure(Outcome::Died, u"the PDF service gave an answer that makes no sense"_s);
@@ -94,7 +99,7 @@ PDFServiceAnswer PDFServiceProcess::failed(LineChannel::Result result, std::chro
 
 PDFServiceAnswer PDFServiceProcess::died()
 {
-    const ChildProcess::Ending ending = iChild.end();
+    const ChildProcess::Ending ending = end();
     if (iChild.isStopped())
         return stopped();
     const QString how

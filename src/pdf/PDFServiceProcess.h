@@ -24,6 +24,9 @@ public:
     /// Sends the request, an object without its id, and waits for the answer.
     PDFServiceAnswer ask(const QJsonObject& request, std::chrono::seconds limit);
 
+    /// Ends it; it can be started anew.
+    ChildProcess::Ending end();
+
     /// Ends it, and with it the request under way, for good. Any thread.
     void stop() { iChild.stop(); }
 

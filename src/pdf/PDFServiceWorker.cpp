@@ -45,7 +45,10 @@ PDFServiceAnswer PDFServiceWorker::ask(const QJsonObject& request)
 {
     if (const PDFServiceAnswer& opening = open(); !opening.isAnswered())
         return opening;
-    return iProcess.ask(request, pageLimit());
+    PDFServiceAnswer answer = iProcess.ask(request, pageLimit());
+    if (answer.error == u"memory"_s)
+        iProcess.end(); // what it holds and can't use again would be held to the end
+    return answer;
 }
 
 PDFServiceAnswer PDFServiceWorker::startAndOpen()

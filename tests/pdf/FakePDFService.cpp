@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Speaks the protocol of the PDF service and misbehaves on demand, in ways that the real one can't
 // be brought to. The "document" is a JSON object that tells for some pages, from "0", or for
-// "open", what happens to a request about it: "crash", "hang", "slow", "refuse", "garbage", "long"
-// (a line without an end).
+// "open", what happens to a request about it: "crash", "hang", "slow", "refuse", "memory",
+// "garbage", "long" (a line without an end).
 #include <chrono>
 #include <csignal>
 #include <iostream>
@@ -81,6 +81,8 @@ QJsonObject answerTo(const QJsonObject& request)
     const QString key = operation == u"open"_s ? operation : QString::number(page);
     const QString behaviour = document[key].toString();
 
+    if (behaviour == u"memory"_s)
+        return { { u"error"_s, behaviour }, { u"message"_s, u"it needs too much"_s } };
     if (behaviour == u"refuse"_s)
         return { { u"error"_s, u"page"_s }, { u"message"_s, u"it is refused"_s } };
     if (operation == u"render"_s) {

@@ -72,6 +72,17 @@ TEST_F(PDFDocumentFailuresTest, AServiceKilledBetweenTwoQuestionsIsNotNoticed)
     EXPECT_EQ(childProcesses().size(), 1U);
 }
 
+TEST_F(PDFDocumentFailuresTest, AServiceShortOfMemoryIsReplaced)
+{
+    const auto document = opened(documentThat(R"({"pages":3,"1":"memory"})"));
+    const std::vector<pid_t> opener = childProcesses();
+
+    EXPECT_TRUE(textOf(*document, 1).isEmpty());
+    EXPECT_TRUE(childProcesses().empty());
+    EXPECT_EQ(textOf(*document, 2), u"text of page 2"_s);
+    EXPECT_NE(childProcesses(), opener);
+}
+
 TEST_F(PDFDocumentFailuresTest, ADocumentThatCannotBeOpenedSaysWhy)
 {
     expectOpenToFail(documentThat(R"({"open":"crash"})"), u"crashed over it (signal 9)"_s);

@@ -117,6 +117,9 @@ TEST_F(PDFDocumentTest, PagesBeyondTheFirstChunkAreTheirOwn)
     EXPECT_EQ(document->pageAtIndex(3)->label(), u"iv"_s);
     EXPECT_EQ(document->pageAtIndex(299)->label(), u"A-296"_s);
     EXPECT_FALSE(document->pageAtIndex(300));
+    EXPECT_TRUE(document->annotationsOfPage(-1).empty());
+    EXPECT_TRUE(document->textOfPage(300).empty());
+    EXPECT_TRUE(iLog.lines().isEmpty());
 }
 
 TEST_F(PDFDocumentTest, LinksAndOutlineNameTheirTargets)
