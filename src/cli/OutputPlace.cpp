@@ -8,6 +8,8 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
+#include <QStorageInfo>
 #include <QTemporaryFile>
 
 using namespace Qt::StringLiterals;
@@ -23,6 +25,27 @@ namespace {
         const QString shown = names.mid(0, namesShown).join(u", "_s);
         const qsizetype hidden = names.size() - namesShown;
         return hidden > 0 ? u"%1 and %2 more"_s.arg(shown).arg(hidden) : shown;
+    }
+
+    qint64 sizeOfFilesIn(const QString& folder)
+    {
+        qint64 size = 0;
+        for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files))
+            size += file.size();
+        return size;
+    }
+
+    QString existingFolderAbove(const QString& path)
+    {
+        QString folder = QFileInfo(path).absoluteFilePath();
+        while (!QFileInfo::exists(folder))
+            folder = QFileInfo(folder).path();
+        return folder;
+    }
+
+    QString dataSize(qint64 bytes)
+    {
+        return QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
     }
 
     [[noreturn]] void refuse(const QString& sentence)
@@ -77,6 +100,20 @@ void OutputPlace::prepare() const
     QTemporaryFile probe(QDir(iFolder).filePath(u".leafcast-XXXXXX"_s));
     if (!probe.open())
         refuse(u"the output folder %1 can't be written to: %2"_s.arg(iFolder, probe.errorString()));
+}
+
+QString OutputPlace::bookFolder() const
+{
+    return iKind == Kind::Folder ? iFolder : iPackagePath + u"/Contents/Resources"_s;
+}
+
+void OutputPlace::requireRoomFor(qint64 pictureBytes) const
+{
+    const qint64 needed = pictureBytes - sizeOfFilesIn(bookFolder() + u"/files/page"_s);
+    const qint64 available = QStorageInfo(existingFolderAbove(iFolder)).bytesAvailable();
+    if (needed > available)
+        refuse(u"there is no room for the book in %1: it needs %2 more, and the disk has %3 left"_s
+                   .arg(iFolder, dataSize(needed), dataSize(available)));
 }
 
 } // namespace leafcast

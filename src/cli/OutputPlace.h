@@ -18,12 +18,16 @@ public:
     void requireReplaceable() const;
     /// Makes the folder and tries that it can be written to. Throws CommandFailure.
     void prepare() const;
+    /// Refuses when the disk has too little room for page pictures of so many bytes, less those
+    /// that they replace. Throws CommandFailure; what was there is left as it is.
+    void requireRoomFor(qint64 pictureBytes) const;
 
     const QString& folder() const { return iFolder; }
 
 private:
     void requireReplaceableFolder() const;
     void requireReplaceablePackage() const;
+    QString bookFolder() const;
 
     QString iFolder;
     Kind iKind;

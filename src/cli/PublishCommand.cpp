@@ -123,8 +123,8 @@ namespace {
     {
         for (const QString& warning : report.warnings)
             Console::say(warning);
-        for (const auto& page : report.missingPages)
-            Console::sayError(u"page %1 is missing: %2"_s.arg(page.number).arg(page.reason));
+        for (const QString& sentence : report.missingPageSentences())
+            Console::sayError(sentence);
         for (const QString& file : report.missingFiles)
             Console::sayError(u"%1 is missing from the book"_s.arg(file));
         if (!options.quiet)
@@ -148,6 +148,7 @@ namespace {
             place.requireReplaceable();
 
         const PageInput input = readPages(options, report);
+        place.requireRoomFor(report.bytes);
         place.prepare();
         takePageSize(*flashTemplate, input);
         const auto writer = makeWriter(options, place, input, flashTemplate);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/PublishReport.h"
 
+#include <algorithm>
 #include <cmath>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -57,6 +58,24 @@ QString PublishReport::summary() const
     const QString pages = pageCount == 1 ? u"1 page"_s : u"%1 pages"_s.arg(pageCount);
     const QString size = QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
     return u"%1, %2, in %3 s"_s.arg(pages, size).arg(importSeconds + writeSeconds, 0, 'f', 1);
+}
+
+QStringList PublishReport::missingPageSentences() const
+{
+    QStringList sentences;
+    for (auto first = missingPages.begin(); first != missingPages.end();) {
+        const auto breaksRow = [](const auto& a, const auto& b) {
+            return b.number != a.number + 1 || b.reason != a.reason;
+        };
+        const auto last = std::adjacent_find(first, missingPages.end(), breaksRow);
+        const auto end = last == missingPages.end() ? last : last + 1;
+        const QString pages = end - first == 1
+            ? u"page %1 is"_s.arg(first->number)
+            : u"pages %1-%2 are"_s.arg(first->number).arg((end - 1)->number);
+        sentences.append(u"%1 missing: %2"_s.arg(pages, first->reason));
+        first = end;
+    }
+    return sentences;
 }
 
 } // namespace leafcast

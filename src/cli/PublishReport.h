@@ -32,6 +32,8 @@ struct PublishReport {
     QByteArray asJson() const;
     /// "16 pages, 2.1 MB, in 1.3 s"
     QString summary() const;
+    /// "pages 8-16 are missing: REASON"; pages in a row with one reason share a sentence.
+    QStringList missingPageSentences() const;
 };
 
 } // namespace leafcast

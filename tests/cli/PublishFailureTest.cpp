@@ -169,7 +169,7 @@ TEST_F(PublishFailure, PagesThatFailAreNamedAndTheRestIsWritten)
     const Outcome outcome
         = run({ u"publish"_s, u"in.pdf"_s, u"book"_s, u"--pages"_s, u"2-3"_s, u"--json"_s });
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_TRUE(outcome.errors.contains("page 3"));
+    EXPECT_TRUE(outcome.errors.contains("page 3 is missing: "));
     const QJsonObject report = outcome.json();
     EXPECT_EQ(report[u"complete"_s], false);
     EXPECT_EQ(report[u"missingPages"_s][0][u"number"_s], 3);
