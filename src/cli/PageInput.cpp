@@ -41,19 +41,22 @@ namespace {
         }
     }
 
-    void reportPages(const FlashPageSourcePDF& source, PublishReport& report)
+    void reportPage(const PageReport& page, PublishReport& report)
     {
-        for (const PageReport& page : source.pageReports()) {
-            report.bytes += page.picture.bytes;
-            if (!page.picture.written)
-                report.missingPages.push_back({ page.pageNumber, page.picture.problem });
-            if (page.picture.reduced)
-                report.warnings.append(
-                    u"page %1 is very large and was drawn smaller, at %2 x %3 pixels"_s
-                        .arg(page.pageNumber)
-                        .arg(page.picture.width)
-                        .arg(page.picture.height));
-        }
+        const RenderedPage& picture = page.picture;
+        report.bytes += picture.bytes;
+        if (!picture.written)
+            report.missingPages.push_back({ page.pageNumber, picture.problem });
+        if (picture.incomplete)
+            report.warnings.append(
+                u"page %1: something on it could not be drawn and was left out"_s.arg(
+                    page.pageNumber));
+        if (picture.reduced)
+            report.warnings.append(
+                u"page %1 is very large and was drawn smaller, at %2 x %3 pixels"_s
+                    .arg(page.pageNumber)
+                    .arg(picture.width)
+                    .arg(picture.height));
     }
 
     void takeFirstPageSize(const PDFDocument& document, PageInput& input)
@@ -75,7 +78,9 @@ namespace {
         pageNumbers(options, path, document->pageCount());
 
         PageInput input = importPDF(options, password);
-        reportPages(dynamic_cast<const FlashPageSourcePDF&>(*input.pageSource), report);
+        for (const PageReport& page :
+            dynamic_cast<const FlashPageSourcePDF&>(*input.pageSource).pageReports())
+            reportPage(page, report);
         takeFirstPageSize(*document, input);
         input.title
             = document->title().isEmpty() ? QFileInfo(path).completeBaseName() : document->title();
