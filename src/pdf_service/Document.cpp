@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace leafcast::service {
 
 namespace {
-    constexpr size_t BytesBeforeTrimming = size_t{ 32 } << 20U;
+    constexpr size_t BytesBeforeTrimming = size_t{ 40 } << 20U;
 }
 
 Document::Document(const Library& library, const QString& path, const QString& password)

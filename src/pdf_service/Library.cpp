@@ -6,7 +6,7 @@ namespace leafcast::service {
 namespace {
 
     constexpr size_t MemoryCeiling = size_t{ 512 } << 20U;
-    constexpr size_t CacheLimit = size_t{ 48 } << 20U;
+    constexpr size_t CacheLimit = size_t{ 24 } << 20U;
 
     // A broken file can give one warning for each of its bytes.
     void ignoreMessage(void*, const char*) { }

@@ -11,6 +11,8 @@ LoadedPage::LoadedPage(const Document& document, int pageIndex)
     document.library().guarded(ErrorCode::Page, [&] {
         iGeometry = PageGeometry::ofPage(context, object);
         iPage = pdf_load_page(context, document.pdf(), pageIndex);
+        // Version 1.21 looks the object up with a reference that it then forgets.
+        pdf_drop_obj(context, iPage->obj);
         fz_rect ignored{};
         pdf_page_transform(context, iPage, &ignored, &iLibraryPage);
     });

@@ -73,6 +73,7 @@ void PageTree::load(const Library& library, pdf_document* document)
         if (!pdf_is_dict(context, root))
             fz_throw(context, FZ_ERROR_GENERIC, "it has no pages");
         walk.run(root);
+        pdf_clear_xref(context, document); // the dictionaries of all pages
     });
     for (size_t i = 0; i < iObjects.size(); ++i)
         iIndices.emplace(iObjects[i], static_cast<int>(i));
