@@ -25,15 +25,22 @@ Document::Document(const Library& library, const QString& path, const QString& p
         iPrintColours = std::make_unique<PrintColours>(library, iDocument);
         setPrintColours(iPrintColours.get());
     } catch (...) {
-        pdf_drop_document(context(), iDocument);
+        close();
         throw;
     }
 }
 
 Document::~Document()
 {
+    close();
+}
+
+void Document::close()
+{
     setPrintColours(nullptr);
     iNamedDestinations.reset();
+    if (iDocument->page_map_nesting > 0) // the library forgets a half of it
+        pdf_drop_page_tree(context(), iDocument);
     pdf_drop_document(context(), iDocument);
 }
 

@@ -46,6 +46,7 @@ public:
 
 private:
     void openFile(const QString& path);
+    void close();
     void authenticate(const QString& password) const;
     void readTitle();
 
