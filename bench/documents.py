@@ -84,9 +84,9 @@ def library_shares(place, document, results):
 
 
 def speed_targets(rows):
-    speeds = {each["name"]: each["import_pages_per_second"] for each in rows}
-    return targets.speed(speeds[contenders.PEERS[0].name],
-                         speeds[contenders.own_name(0, 1)], speeds[contenders.own_name(0, 2)])
+    by_name = {each["name"]: each for each in rows}
+    return targets.speed(by_name[contenders.PEERS[0].name],
+                         by_name[contenders.own_name(0, 1)], by_name[contenders.own_name(0, 2)])
 
 
 def mean_kibibytes(sizes):

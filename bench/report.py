@@ -65,5 +65,6 @@ def targets(all_targets):
     for target in all_targets:
         comparison = "at least" if target.at_least else "under"
         verdict = "met    " if target.met else "NOT MET"
+        note = f"; {target.note}" if target.note else ""
         print(f"  {verdict}  {target.text}: {target.value:.3g} {target.unit}"
-              f" ({comparison} {target.limit:g})")
+              f" ({comparison} {target.limit:g}{note})")

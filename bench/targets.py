@@ -13,6 +13,7 @@ class Target:
     limit: float
     unit: str
     at_least: bool = False
+    note: str = ""
 
     @property
     def met(self):
@@ -20,11 +21,16 @@ class Target:
 
 
 def speed(peer, one_job, two_jobs):
-    """Import of the text book at quality 0 against pdftoppm, both in pages a second."""
+    """The rows of the text book: pdftoppm's, and ours at quality 0."""
+    def faster(own):
+        return own["import_pages_per_second"] / peer["import_pages_per_second"]
+
+    # Processor time hardly suffers from what else the machine does.
+    note = f"the whole publish takes {one_job['figures'][1] / peer['figures'][1]:.2f} of its processor time"
     return [Target("Text book, quality 0, two jobs: import against pdftoppm",
-                   two_jobs / peer, 4, "times", at_least=True),
+                   faster(two_jobs), 4, "times", at_least=True),
             Target("Text book, quality 0, one job: import against pdftoppm",
-                   one_job / peer, 2, "times", at_least=True)]
+                   faster(one_job), 2, "times", at_least=True, note=note)]
 
 
 def memory(many, very_many):
