@@ -20,7 +20,7 @@ public:
     void setNeedFiles(const QStringList& files) { iNeedFiles = files; }
 
     /// None until it is loaded.
-    const std::optional<XMLElement>& pagesAnnotationsNode() const { return iPagesAnnotationsNode; }
+    virtual std::optional<XMLElement> pagesAnnotationsNode() const { return iPagesAnnotationsNode; }
     void setPagesAnnotationsNode(std::optional<XMLElement> root)
     {
         iPagesAnnotationsNode = std::move(root);

@@ -2,7 +2,6 @@
 #include "links/FlashPagesAnnotationsPDF.h"
 
 #include "base/Log.h"
-#include "links/LinkLocation.h"
 #include "pages/FlashPageSource.h"
 
 using namespace Qt::StringLiterals;
@@ -35,16 +34,16 @@ namespace {
         return annotation.type == u"Link"_s && (annotation.URL || annotation.destination);
     }
 
-    void appendAction(XMLElement record, const PDFAnnotation& link)
+    void appendURL(XMLElement action, const QString& url)
     {
-        XMLElement action = record.addChild(u"action"_s);
-        action.addAttribute(u"triggerEventType"_s, u"mouseDown"_s);
-        action.addAttribute(u"actionType"_s, link.URL ? openURLClass : goToPageClass);
-        if (link.URL)
-            action.addChild(u"url"_s).setStringValue(*link.URL);
-        else
-            action.addChild(u"pageIndex"_s)
-                .setStringValue(QString::number(link.destination->pageIndex + 1));
+        action.addAttribute(u"actionType"_s, openURLClass);
+        action.addChild(u"url"_s).setStringValue(url);
+    }
+
+    void appendPage(XMLElement action, int number)
+    {
+        action.addAttribute(u"actionType"_s, goToPageClass);
+        action.addChild(u"pageIndex"_s).setStringValue(QString::number(number));
     }
 
     void appendLocation(XMLElement record, const LinkLocation& location)
@@ -54,15 +53,6 @@ namespace {
         node.addAttribute(u"y"_s, LinkLocation::text(location.y));
         node.addAttribute(u"width"_s, LinkLocation::text(location.width));
         node.addAttribute(u"height"_s, LinkLocation::text(location.height));
-    }
-
-    void appendRecord(XMLElement& pageNode, const PDFAnnotation& link, const PDFPage& page)
-    {
-        XMLElement record = pageNode.addChild(u"anno"_s);
-        record.addAttribute(u"annotype"_s, linkClass);
-        appendAction(record, link);
-        appendLocation(record,
-            LinkLocation::of(link.bounds, page.boundsForBox(PDFBox::CropBox), page.rotation()));
     }
 
 } // namespace
@@ -75,7 +65,8 @@ void FlashPagesAnnotationsPDF::loadLinksFromPDF(
         = FlashPageSource::parsePageRange(pageRange, iPDFDoc ? iPDFDoc->pageCount() : 0);
     iCurrentIndex = 0;
     needFiles().clear();
-    setPagesAnnotationsNode(XMLElement(u"pagesAnnos"_s));
+    setPagesAnnotationsNode(std::nullopt);
+    iLoadedPages.emplace();
     for (; iCurrentIndex < static_cast<qint32>(iNeedToImportPages.size()); ++iCurrentIndex)
         parsePage();
 }
@@ -84,27 +75,56 @@ void FlashPagesAnnotationsPDF::parsePage()
 {
     const qint32 number = iNeedToImportPages.at(static_cast<size_t>(iCurrentIndex));
     LOG_DEBUG("FlashPagesAnnotationsPDF", u"page is:%1"_s.arg(number));
-    XMLElement root = pagesAnnotationsNode().value();
-    XMLElement pageNode = root.addChild(u"pageAnnos"_s);
-    pageNode.addAttribute(u"pageIndex"_s, QString::number(iCurrentIndex + 1));
-
     const bool isInDocument = iPDFDoc && number >= 1 && number <= iPDFDoc->pageCount();
     const auto page = isInDocument ? iPDFDoc->pageAtIndex(number - 1) : std::nullopt;
-    if (page)
-        appendRecords(pageNode, *page);
+    iLoadedPages->push_back(page ? linksOf(*page) : PageLinks());
 }
 
-void FlashPagesAnnotationsPDF::appendRecords(XMLElement pageNode, const PDFPage& page) const
+FlashPagesAnnotationsPDF::PageLinks FlashPagesAnnotationsPDF::linksOf(const PDFPage& page) const
 {
     const auto annotations = iPDFDoc->annotationsOfPage(page.index());
-    if (annotations.empty())
-        return;
-    LOG_DEBUG("FlashPagesAnnotationsPDF", u"count is:%1"_s.arg(annotations.size()));
+    if (!annotations.empty())
+        LOG_DEBUG("FlashPagesAnnotationsPDF", u"count is:%1"_s.arg(annotations.size()));
+    PageLinks links;
     for (size_t i = 0; i < annotations.size(); ++i) {
-        logAnnotation(i, annotations[i]);
-        if (isFollowed(annotations[i]))
-            appendRecord(pageNode, annotations[i], page);
+        const PDFAnnotation& annotation = annotations[i];
+        logAnnotation(i, annotation);
+        if (!isFollowed(annotation))
+            continue;
+        const int target = annotation.destination ? annotation.destination->pageIndex + 1 : 0;
+        links.push_back({ annotation.URL, target,
+            LinkLocation::of(
+                annotation.bounds, page.boundsForBox(PDFBox::CropBox), page.rotation()) });
     }
+    return links;
+}
+
+std::optional<XMLElement> FlashPagesAnnotationsPDF::pagesAnnotationsNode() const
+{
+    const auto given = FlashPagesAnnotations::pagesAnnotationsNode();
+    if (given || !iLoadedPages)
+        return given;
+    XMLElement root(u"pagesAnnos"_s);
+    for (size_t i = 0; i < iLoadedPages->size(); ++i) {
+        XMLElement pageNode = root.addChild(u"pageAnnos"_s);
+        pageNode.addAttribute(u"pageIndex"_s, QString::number(i + 1));
+        for (const Link& link : iLoadedPages->at(i))
+            appendRecord(pageNode, link);
+    }
+    return root;
+}
+
+void FlashPagesAnnotationsPDF::appendRecord(XMLElement& pageNode, const Link& link)
+{
+    XMLElement record = pageNode.addChild(u"anno"_s);
+    record.addAttribute(u"annotype"_s, linkClass);
+    XMLElement action = record.addChild(u"action"_s);
+    action.addAttribute(u"triggerEventType"_s, u"mouseDown"_s);
+    if (link.URL)
+        appendURL(action, *link.URL);
+    else
+        appendPage(action, link.pageNumber);
+    appendLocation(record, link.location);
 }
 
 } // namespace leafcast
