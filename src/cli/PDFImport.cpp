@@ -51,9 +51,11 @@ namespace {
 
 } // namespace
 
-PageInput importPDF(const PublishOptions& options, const QString& password)
+PageInput importPDF(const PublishOptions& options, const std::shared_ptr<PDFDocument>& document)
 {
-    const PDFImportOptions importOptions{ password, options.limits, options.jobs };
+    const PDFImportOptions importOptions{
+        .limits = options.limits, .workers = options.jobs, .opened = document
+    };
     ImportPDFOperation operation(options.inputs().constFirst(), fromArgument(options.pages),
         importDPI, options.quality(), importOptions);
     operation.setImportLinks(!options.noLinks);

@@ -77,7 +77,7 @@ namespace {
             report.warnings.append(u"%1 is damaged; what could be mended was read"_s.arg(path));
         pageNumbers(options, path, document->pageCount());
 
-        PageInput input = importPDF(options, password);
+        PageInput input = importPDF(options, document);
         for (const PageReport& page :
             dynamic_cast<const FlashPageSourcePDF&>(*input.pageSource).pageReports())
             reportPage(page, report);

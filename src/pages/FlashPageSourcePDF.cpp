@@ -13,9 +13,20 @@ using namespace Qt::StringLiterals;
 
 namespace leafcast {
 
+namespace {
+
+    PDFDocument::OpenResult opened(const QString& path, const PDFImportOptions& options)
+    {
+        if (options.opened)
+            return { options.opened, PDFOpenError::None, {} };
+        return PDFDocument::open({ path, options.password, options.limits });
+    }
+
+} // namespace
+
 FlashPageSourcePDF::FlashPageSourcePDF(const QString& path, const QString& pageRange, qint32 DPI,
     qint32 quality, const PDFImportOptions& options)
-    : iOpenResult(PDFDocument::open({ path, options.password, options.limits }))
+    : iOpenResult(opened(path, options))
     , iPDFDoc(iOpenResult.document)
     , iPageRange(pageRange)
     , iDPI(DPI)

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "pdf/PDFServiceLimits.h"
+#include "pdf/PDFDocument.h"
 
+#include <memory>
 #include <QString>
 
 namespace leafcast {
@@ -12,6 +13,7 @@ struct PDFImportOptions {
     QString password{};
     PDFServiceLimits limits{};
     int workers = 0; // of the PDF service; 0: one a processor core
+    std::shared_ptr<PDFDocument> opened{}; // by the caller already; else the path is opened
 };
 
 } // namespace leafcast
