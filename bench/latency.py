@@ -39,7 +39,8 @@ def once_imported(program, document, folder):
     known = set(drawn_first_pages())
     start = time.perf_counter()
     process = subprocess.Popen([program, "publish", document.path, folder, "--quality", "0", "--quiet"],
-                               stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
+                               stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                               stderr=subprocess.DEVNULL)
     while process.poll() is None and not set(drawn_first_pages()) - known:
         time.sleep(0.001)
     seconds = time.perf_counter() - start
