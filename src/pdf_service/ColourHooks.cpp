@@ -17,12 +17,14 @@ struct fz_color_converter {
     fz_colorspace* source;
 };
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the linker makes these names
 ColourFunction* __real_fz_lookup_fast_color_converter(fz_context*, fz_colorspace*, fz_colorspace*);
 ColourFunction* __wrap_fz_lookup_fast_color_converter(fz_context*, fz_colorspace*, fz_colorspace*);
 fz_colorspace* __real_pdf_load_colorspace(fz_context*, pdf_obj*);
 fz_colorspace* __wrap_pdf_load_colorspace(fz_context*, pdf_obj*);
 void __real_fz_convert_fast_pixmap_samples(fz_context*, const fz_pixmap*, fz_pixmap*, int);
 void __wrap_fz_convert_fast_pixmap_samples(fz_context*, const fz_pixmap*, fz_pixmap*, int);
+// NOLINTEND(bugprone-reserved-identifier)
 }
 
 namespace leafcast::service {

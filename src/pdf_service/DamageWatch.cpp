@@ -5,10 +5,12 @@
 
 // A picture is also left out, with --wrap, when already its description can't be read: only a
 // syntax error lets the library's interpreter go on with what follows.
+// NOLINTBEGIN(bugprone-reserved-identifier): the linker makes these names
 extern "C" {
 fz_image* __real_pdf_load_image(fz_context*, pdf_document*, pdf_obj*);
 fz_image* __wrap_pdf_load_image(fz_context*, pdf_document*, pdf_obj*);
 }
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace leafcast::service {
 
@@ -48,6 +50,7 @@ namespace {
             context, [&] { drawing.fillImage(context, device, image, matrix, alpha, parameters); });
     }
 
+    // NOLINTNEXTLINE(readability-function-size): the library's signature
     void fillImageMask(fz_context* context, fz_device* device, fz_image* image, fz_matrix matrix,
         fz_colorspace* space, const float* colour, float alpha, fz_color_params parameters)
     {

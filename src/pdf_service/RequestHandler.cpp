@@ -124,7 +124,7 @@ QJsonObject RequestHandler::run(const QJsonObject& request)
 {
     const RequestWatch watch(iLimits.pageSeconds);
     const QString name = RequestFields(request).text("op");
-    const QJsonObject answer = (this->*operationNamed(name))(request);
+    QJsonObject answer = (this->*operationNamed(name))(request);
     if (iDocument)
         iDocument->trimMemory();
     return answer;

@@ -38,7 +38,7 @@ QString schemeOf(const QString& address)
 
 QString webAddress(const char* bytes, size_t length, const QString& base)
 {
-    const QString address = decoded(bytes, length);
+    QString address = decoded(bytes, length);
     if (!schemeOf(address).isEmpty())
         return address;
     if (!base.isEmpty())

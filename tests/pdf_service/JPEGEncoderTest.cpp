@@ -72,7 +72,7 @@ QByteArray encodedByTheLibrary(const Bitmap& bitmap, int quality, int sampling)
         jpeg_write_scanlines(&library, &row, 1);
     }
     jpeg_finish_compress(&library);
-    const QByteArray result(reinterpret_cast<char*>(bytes), static_cast<qsizetype>(size));
+    QByteArray result(reinterpret_cast<char*>(bytes), static_cast<qsizetype>(size));
     jpeg_destroy_compress(&library);
     free(bytes);
     return result;

@@ -143,7 +143,7 @@ QByteArray invertedJPEG(QByteArray rows, int width, int height)
         jpeg_write_scanlines(&library, &row, 1);
     }
     jpeg_finish_compress(&library);
-    const QByteArray result(reinterpret_cast<char*>(bytes), static_cast<qsizetype>(size));
+    QByteArray result(reinterpret_cast<char*>(bytes), static_cast<qsizetype>(size));
     jpeg_destroy_compress(&library);
     free(bytes);
     return result;

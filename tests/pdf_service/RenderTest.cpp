@@ -37,7 +37,7 @@ DecodedJPEG draw(const PDFBuilder& pdf, double scale = 1)
     session.open(pdf.build());
     const QJsonObject answer = session.render(0, scale);
     EXPECT_EQ(answer.value(u"error").toString(), QString());
-    const DecodedJPEG picture = session.picture();
+    DecodedJPEG picture = session.picture();
     EXPECT_EQ(answer.value(u"width").toInt(), picture.width);
     EXPECT_EQ(answer.value(u"height").toInt(), picture.height);
     EXPECT_EQ(answer.value(u"grey").toBool(), picture.components == 1);
