@@ -24,7 +24,7 @@ public:
     pdf_obj* find(const QByteArray& name) const { return iValues.value(name, nullptr); }
 
 private:
-    struct Walk;
+    struct Reader;
 
     fz_context* iContext = nullptr;
     QHash<QByteArray, pdf_obj*> iValues;

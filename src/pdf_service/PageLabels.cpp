@@ -4,9 +4,7 @@
 #include "pdf_service/Library.h"
 #include "pdf_service/NumberStyle.h"
 #include "pdf_service/TextString.h"
-
-#include <unordered_set>
-#include <vector>
+#include "pdf_service/TreeNodes.h"
 
 namespace leafcast::service {
 
@@ -14,11 +12,9 @@ namespace {
     constexpr size_t MaximumRanges = 100'000;
 }
 
-struct PageLabels::Walk {
+struct PageLabels::Reader {
     fz_context* context;
     std::map<int, Range>& ranges;
-    std::vector<pdf_obj*> waiting{};
-    std::unordered_set<int> seen{};
 
     void addRange(int firstPage, pdf_obj* entry)
     {
@@ -33,7 +29,7 @@ struct PageLabels::Walk {
         range.prefix = textFromPDFString(prefix, length);
     }
 
-    void visit(pdf_obj* node)
+    bool addNode(pdf_obj* node)
     {
         pdf_obj* numbers = pdf_dict_get(context, node, PDF_NAME(Nums));
         const int pairs = pdf_array_len(context, numbers) / 2;
@@ -41,26 +37,7 @@ struct PageLabels::Walk {
             const int firstPage = pdf_array_get_int(context, numbers, 2 * i);
             addRange(firstPage, pdf_array_get(context, numbers, 2 * i + 1));
         }
-        pdf_obj* kids = pdf_dict_get(context, node, PDF_NAME(Kids));
-        for (int i = 0; i < pdf_array_len(context, kids); ++i)
-            push(pdf_array_get(context, kids, i));
-    }
-
-    void push(pdf_obj* node)
-    {
-        const int number = pdf_to_num(context, node);
-        if (number != 0 && seen.insert(number).second)
-            waiting.push_back(node);
-    }
-
-    void run(pdf_obj* root)
-    {
-        visit(root);
-        while (!waiting.empty() && ranges.size() < MaximumRanges) {
-            pdf_obj* node = waiting.back();
-            waiting.pop_back();
-            visit(node);
-        }
+        return ranges.size() < MaximumRanges;
     }
 };
 
@@ -68,9 +45,11 @@ void PageLabels::load(const Library& library, pdf_document* document)
 {
     iRanges.clear();
     fz_context* context = library.context();
-    Walk walk{ context, iRanges };
+    Reader reader{ context, iRanges };
+    TreeNodes nodes(context);
     const bool complete = library.attempt([&] {
-        walk.run(pdf_dict_getp(context, pdf_trailer(context, document), "Root/PageLabels"));
+        nodes.forEach(pdf_dict_getp(context, pdf_trailer(context, document), "Root/PageLabels"),
+            [&](pdf_obj* node) { return reader.addNode(node); });
     });
     if (!complete) // wrong labels are worse than none
         iRanges.clear();

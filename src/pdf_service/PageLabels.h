@@ -23,7 +23,7 @@ private:
         char style = 0; // D, R, r, A, a; 0: the prefix alone
         int firstNumber = 1;
     };
-    struct Walk;
+    struct Reader;
 
     std::map<int, Range> iRanges; // by the index of the first page
 };
