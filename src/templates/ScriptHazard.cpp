@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "templates/ScriptHazard.h"
+
+#include "templates/ScriptEntry.h"
+
+#include <array>
+#include <cmath>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast {
+
+namespace {
+
+    struct Breaker {
+        QLatin1StringView characters;
+        QLatin1StringView name;
+    };
+
+    constexpr std::array textBreakers{ Breaker{ "\""_L1, "a double quote"_L1 },
+        Breaker{ "\\"_L1, "a backslash"_L1 }, Breaker{ "\n"_L1, "a line break"_L1 },
+        Breaker{ "\r"_L1, "a line break"_L1 } };
+
+    bool isIdentifier(const QString& key)
+    {
+        static const QRegularExpression identifier(
+            u"\\A[\\p{L}\\p{Nl}$_][\\p{L}\\p{Nl}\\p{Mn}\\p{Mc}\\p{Nd}\\p{Pc}$]*\\z"_s);
+        return identifier.match(key).hasMatch();
+    }
+
+    QString whyNoText(const QString& value)
+    {
+        for (const auto& [characters, name] : textBreakers)
+            if (value.contains(characters))
+                return u"its value holds %1"_s.arg(name);
+        return {};
+    }
+
+    QString whyNoNumber(const QString& value)
+    {
+        if (value.trimmed().isEmpty())
+            return u"its value is empty and must be a number"_s;
+        return isScriptNumber(value) ? QString() : u"its value \"%1\" is not a number"_s.arg(value);
+    }
+
+    QString hazardOf(const ScriptEntry& entry)
+    {
+        if (!isIdentifier(entry.key))
+            return u"its key is not a name that a script can hold"_s;
+        return entry.isQuoted ? whyNoText(entry.value) : whyNoNumber(entry.value);
+    }
+
+    void collect(const FlashTemplateProperties& properties, std::vector<ScriptHazard>& found)
+    {
+        for (const auto& property : properties) {
+            if (!property)
+                continue;
+            const QString reason = hazardOf(ScriptEntry(*property));
+            if (!reason.isEmpty())
+                found.push_back({ property->key(), reason });
+            collect(property->childProperties(), found);
+        }
+    }
+
+} // namespace
+
+std::vector<ScriptHazard> scriptHazards(const FlashTemplateProperties& properties)
+{
+    std::vector<ScriptHazard> found;
+    collect(properties, found);
+    return found;
+}
+
+bool isScriptNumber(QStringView text)
+{
+    static const QRegularExpression decimal(
+        u"\\A[+-]?(?:(?:0|[1-9][0-9]*)(?:\\.[0-9]*)?|\\.[0-9]+)(?:[eE][+-]?[0-9]+)?\\z"_s);
+    static const QRegularExpression hexadecimal(u"\\A[+-]?0[xX][0-9a-fA-F]{1,255}\\z"_s);
+    const QString number = text.trimmed().toString();
+    if (hexadecimal.match(number).hasMatch())
+        return true;
+    return decimal.match(number).hasMatch() && std::isfinite(number.toDouble());
+}
+
+} // namespace leafcast
