@@ -23,7 +23,7 @@ test: ## Set up, build and run every test
 	@tools/setup test
 	@tools/build dev
 	@ctest --preset dev --parallel $$(nproc)
-	@LEAFCAST=$(CURDIR)/build/dev/bin/leafcast npm test --silent
+	@LEAFCAST="$(CURDIR)/build/dev/bin/leafcast" npm test --silent
 
 asan: ## Run the unit tests under the address and undefined behaviour sanitizers
 	@tools/setup test
@@ -44,7 +44,7 @@ samples: ## Draw the sample magazine, the first book's pages and the template's 
 shots: ## Take the pictures of the styles from a real book
 	@tools/setup samples
 	@tools/build release
-	@LEAFCAST=$(CURDIR)/build/release/bin/leafcast node tools/make-shots.mjs
+	@LEAFCAST="$(CURDIR)/build/release/bin/leafcast" node tools/make-shots.mjs
 
 lint: ## Check formatting, includes and clang-tidy on changed files
 	@tools/setup lint

@@ -21,7 +21,7 @@ QStringList subfolders(const QString& folder)
 {
     QStringList found;
     for (const QString& name : entryNames(folder)) {
-        const QString path = QDir(folder).filePath(name);
+        const QString path = QDir(folder).path() + u'/' + name; // a name may begin with ":"
         const QFileInfo info(path);
         if (!info.isDir() || info.isSymLink())
             continue;

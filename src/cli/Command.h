@@ -18,7 +18,12 @@ void addTemplatesCommand(CLI::App& program, Action& chosen);
 void addStylesCommand(CLI::App& program, Action& chosen);
 void addSettingsCommand(CLI::App& program, Action& chosen);
 
-/// A path or text as it was typed.
+/// Hides from the parser that an argument begins with "[", which it would take for a list.
+/// fromArgument() undoes it.
+std::vector<std::string> protectedArguments(int argc, char** argv);
+/// A text as it was typed.
 QString fromArgument(const std::string& argument);
+/// A path as it was typed; one that begins with ":" is a file's all the same.
+QString pathFromArgument(const std::string& argument);
 
 } // namespace leafcast

@@ -20,12 +20,19 @@ namespace {
         return extensions.contains(QFileInfo(path).suffix().toLower());
     }
 
+    // Other systems leave hidden companions of pictures behind, such as "._1.jpg".
+    bool isPicture(const QFileInfo& entry)
+    {
+        return entry.isFile() && !entry.isHidden() && hasImageExtension(entry.fileName());
+    }
+
     QStringList imagesInFolder(const QString& folder)
     {
         QStringList paths;
         for (const QString& name : FolderWalk::entryNames(folder))
-            if (hasImageExtension(name))
-                paths.append(QDir(folder).absoluteFilePath(name));
+            // Not by QDir, which takes a name that begins with ":" for a path of its own.
+            if (const QFileInfo entry(folder + u'/' + name); isPicture(entry))
+                paths.append(entry.absoluteFilePath());
         return paths;
     }
 

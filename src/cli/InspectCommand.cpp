@@ -2,6 +2,7 @@
 #include "cli/Command.h"
 #include "cli/Console.h"
 #include "cli/OpenedPDF.h"
+#include "cli/PageNumbers.h"
 #include "cli/PasswordOptions.h"
 #include "links/FlashOutlinePDF.h"
 #include "links/FlashPagesAnnotationsPDF.h"
@@ -133,6 +134,7 @@ namespace {
 
     void printLinksXml(const std::shared_ptr<PDFDocument>& document, const QString& pages)
     {
+        pageNumbers(pages, document->source().path, document->pageCount());
         FlashPagesAnnotationsPDF links;
         links.loadLinksFromPDF(document, pages);
         Console::writeData(links.pagesAnnotationsNode()->toUtf8() + '\n');
@@ -148,14 +150,14 @@ namespace {
     ExitCode inspect(const InspectOptions& options)
     {
         const auto document
-            = openPDF({ fromArgument(options.file), options.passwordOptions.chosen(), {} });
+            = openPDF({ pathFromArgument(options.file), options.passwordOptions.chosen(), {} });
         if (options.linksXml)
             printLinksXml(document, fromArgument(options.pages));
-        if (options.outlineXml)
+        else if (options.outlineXml)
             printOutlineXml(document);
-        if (options.json)
+        else if (options.json)
             printJson(*document);
-        else if (!options.linksXml && !options.outlineXml)
+        else
             printText(*document);
         return ExitCode::Complete;
     }
@@ -171,9 +173,12 @@ void addInspectCommand(CLI::App& program, Action& chosen)
         ->type_name("RANGE")
         ->capture_default_str();
     options->passwordOptions.addTo(*command);
-    command->add_flag("--json", options->json, "Write JSON");
-    command->add_flag("--links-xml", options->linksXml, "Write the link records as XML");
-    command->add_flag("--outline-xml", options->outlineXml, "Write the outline as XML");
+    auto* json = command->add_flag("--json", options->json, "Write JSON");
+    auto* links = command->add_flag("--links-xml", options->linksXml, "Write the links as XML");
+    command->add_flag("--outline-xml", options->outlineXml, "Write the outline as XML")
+        ->excludes(json)
+        ->excludes(links);
+    links->excludes(json);
     command->callback([&chosen, options] { chosen = [options] { return inspect(*options); }; });
 }
 

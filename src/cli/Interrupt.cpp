@@ -23,6 +23,9 @@ void listen()
     action.sa_flags = static_cast<int>(SA_RESETHAND);
     sigaction(SIGINT, &action, nullptr);
     sigaction(SIGTERM, &action, nullptr);
+    sigaction(SIGHUP, &action, nullptr);
+    // A reader of ours that went away is an error of a write, not the end.
+    std::signal(SIGPIPE, SIG_IGN);
 }
 
 bool isRequested()

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// Ctrl-C and the polite kill: the first one asks the running command to stop, a second one ends
-/// the program.
+/// Ctrl-C, the polite kill and a terminal that closes: the first one asks the running command to
+/// stop, a second one ends the program.
 namespace leafcast::Interrupt {
 
 void listen();

@@ -3,14 +3,16 @@
 
 #include "base/FileSteps.h"
 #include "base/FolderWalk.h"
+#include "cli/DataSize.h"
 #include "cli/ExitCode.h"
 #include "publish/BookCheck.h"
+#include "publish/FlashBookOutput.h"
 
+#include <algorithm>
 #include <QDir>
 #include <QFileInfo>
-#include <QLocale>
 #include <QStorageInfo>
-#include <QTemporaryFile>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -19,33 +21,27 @@ namespace leafcast {
 namespace {
 
     constexpr qsizetype namesShown = 5;
+    constexpr qint64 roomForTheRest = 1 << 20; // scripts, styles, reader data of a short book
 
     QString shortList(const QStringList& names)
     {
         const QString shown = names.mid(0, namesShown).join(u", "_s);
         const qsizetype hidden = names.size() - namesShown;
-        return hidden > 0 ? u"%1 and %2 more"_s.arg(shown).arg(hidden) : shown;
+        return hidden > 0 ? u"%1 and %2 more"_s.arg(shown, QString::number(hidden)) : shown;
     }
 
-    qint64 sizeOfFilesIn(const QString& folder)
+    QString nearestExisting(const QString& absolutePath)
     {
-        qint64 size = 0;
-        for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files))
-            size += file.size();
-        return size;
+        QString path = absolutePath;
+        while (!FileSteps::exists(path) && path != QFileInfo(path).path())
+            path = QFileInfo(path).path();
+        return path;
     }
 
-    QString existingFolderAbove(const QString& path)
+    bool isInside(const QString& path, const QString& folder)
     {
-        QString folder = QFileInfo(path).absoluteFilePath();
-        while (!QFileInfo::exists(folder))
-            folder = QFileInfo(folder).path();
-        return folder;
-    }
-
-    QString dataSize(qint64 bytes)
-    {
-        return QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
+        const QString canonical = QFileInfo(folder).canonicalFilePath();
+        return !canonical.isEmpty() && (path == canonical || path.startsWith(canonical + u'/'));
     }
 
     [[noreturn]] void refuse(const QString& sentence)
@@ -56,10 +52,12 @@ namespace {
 } // namespace
 
 OutputPlace::OutputPlace(const QString& folder, Kind kind, const QString& packageName)
-    : iFolder(QDir::cleanPath(folder))
+    : iFolder(QDir::cleanPath(QFileInfo(folder).absoluteFilePath()))
     , iKind(kind)
     , iPackagePath(QDir(iFolder).filePath(packageName + u".app"_s))
 {
+    if (folder.isEmpty())
+        throw CommandFailure(ExitCode::WrongUsage, u"the output folder has no name"_s);
 }
 
 void OutputPlace::requireReplaceable() const
@@ -91,29 +89,53 @@ void OutputPlace::requireReplaceablePackage() const
             .arg(iPackagePath, names.isEmpty() ? QString() : u" (%1)"_s.arg(shortList(names))));
 }
 
-void OutputPlace::prepare() const
+void OutputPlace::requireWritable() const
 {
-    if (QFileInfo(iFolder).exists() && !QFileInfo(iFolder).isDir())
-        refuse(u"the output folder %1 can't be made: a file lies there"_s.arg(iFolder));
-    if (!FileSteps::makeFolders(iFolder))
-        refuse(u"the output folder %1 can't be made"_s.arg(iFolder));
-    QTemporaryFile probe(QDir(iFolder).filePath(u".leafcast-XXXXXX"_s));
-    if (!probe.open())
-        refuse(u"the output folder %1 can't be written to: %2"_s.arg(iFolder, probe.errorString()));
+    const QString nearest = nearestExisting(iFolder);
+    if (!QFileInfo(nearest).isDir())
+        refuse(u"the output folder %1 can't be made: %2 is no folder"_s.arg(iFolder, nearest));
+    if (access(QFile::encodeName(nearest).constData(), W_OK | X_OK) != 0)
+        refuse(u"the output folder %1 can't be written to: %2"_s.arg(iFolder, qt_error_string()));
 }
 
-QString OutputPlace::bookFolder() const
+// Everything below these goes, or may go, while the book is written.
+QStringList OutputPlace::replacedFolders() const
 {
-    return iKind == Kind::Folder ? iFolder : iPackagePath + u"/Contents/Resources"_s;
+    if (iKind == Kind::Package)
+        return { iPackagePath };
+    return { iFolder + u"/files"_s, iFolder + u"/javascript"_s, iFolder + u"/style"_s };
 }
 
-void OutputPlace::requireRoomFor(qint64 pictureBytes) const
+void OutputPlace::requireOutside(const QStringList& inputs) const
 {
-    const qint64 needed = pictureBytes - sizeOfFilesIn(bookFolder() + u"/files/page"_s);
-    const qint64 available = QStorageInfo(existingFolderAbove(iFolder)).bytesAvailable();
+    for (const QString& input : inputs)
+        for (const QString& folder : replacedFolders())
+            if (isInside(QFileInfo(input).canonicalFilePath(), folder))
+                refuse(
+                    u"%1 lies in %2, which the book would replace; copy it elsewhere first"_s.arg(
+                        input, folder));
+}
+
+void OutputPlace::requireRoomFor(const FlashBookOutput& writer) const
+{
+    qint64 needed = roomForTheRest;
+    qint64 largest = 0; // a picture is written beside the one that it replaces
+    for (const auto& page : writer.flashPageSource()->normalPages()) {
+        const qint64 size = QFileInfo(page->pageFilePath()).size();
+        needed += size - QFileInfo(writer.pageFileName(*page)).size();
+        largest = std::max(largest, size);
+    }
+    needed = std::max(needed, roomForTheRest) + largest;
+    const qint64 available = QStorageInfo(nearestExisting(iFolder)).bytesAvailable();
     if (needed > available)
         refuse(u"there is no room for the book in %1: it needs %2 more, and the disk has %3 left"_s
                    .arg(iFolder, dataSize(needed), dataSize(available)));
+}
+
+void OutputPlace::makeFolder() const
+{
+    if (!FileSteps::makeFolders(iFolder))
+        refuse(u"the output folder %1 can't be made; the log (--verbose) tells why"_s.arg(iFolder));
 }
 
 } // namespace leafcast

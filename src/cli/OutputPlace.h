@@ -2,10 +2,14 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace leafcast {
 
-/// Where a book goes: a folder, or a package NAME.app inside a folder.
+class FlashBookOutput;
+
+/// Where a book goes: a folder, or a package NAME.app inside a folder. What it requires it requires
+/// before anything is changed; a failure is a CommandFailure.
 class OutputPlace {
 public:
     enum class Kind { Folder, Package };
@@ -13,23 +17,27 @@ public:
     /// packageName: without extension; not used for a folder.
     OutputPlace(const QString& folder, Kind kind, const QString& packageName);
 
-    /// Refuses what is no book of ours, naming what would be lost. Throws CommandFailure; changes
-    /// nothing.
+    /// Refuses what is no book of ours, naming what would be lost.
     void requireReplaceable() const;
-    /// Makes the folder and tries that it can be written to. Throws CommandFailure.
-    void prepare() const;
-    /// Refuses when the disk has too little room for page pictures of so many bytes, less those
-    /// that they replace. Throws CommandFailure; what was there is left as it is.
-    void requireRoomFor(qint64 pictureBytes) const;
+    /// Refuses a folder that can't be made or written to.
+    void requireWritable() const;
+    /// Refuses to read a file that the output would replace.
+    void requireOutside(const QStringList& inputs) const;
+    /// Refuses when the disk has too little room for the writer's pages, beside those they replace.
+    void requireRoomFor(const FlashBookOutput& writer) const;
+
+    void makeFolder() const;
 
     const QString& folder() const { return iFolder; }
+    /// The folder or the package.
+    const QString& bookPath() const { return iKind == Kind::Folder ? iFolder : iPackagePath; }
 
 private:
     void requireReplaceableFolder() const;
     void requireReplaceablePackage() const;
-    QString bookFolder() const;
+    QStringList replacedFolders() const;
 
-    QString iFolder;
+    QString iFolder; // absolute
     Kind iKind;
     QString iPackagePath;
 };

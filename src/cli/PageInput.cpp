@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "cli/PageInput.h"
 
-#include "base/NamedException.h"
 #include "cli/Command.h"
 #include "cli/ImageInput.h"
+#include "cli/InputName.h"
 #include "cli/OpenedPDF.h"
+#include "cli/PageNumbers.h"
 #include "cli/PDFImport.h"
 #include "pages/FlashPageSourceImg.h"
 #include "pages/FlashPageSourcePDF.h"
@@ -19,27 +20,6 @@ using namespace Qt::StringLiterals;
 namespace leafcast {
 
 namespace {
-
-    std::vector<qint32> pageNumbers(
-        const PublishOptions& options, const QString& input, int pageCount)
-    {
-        const QString range = fromArgument(options.pages);
-        if (pageCount == 0)
-            throw CommandFailure(ExitCode::InputUnreadable, u"%1 has no pages"_s.arg(input));
-        try {
-            const auto numbers = FlashPageSource::parsePageRange(range, pageCount);
-            const auto exists
-                = [pageCount](qint32 number) { return number >= 1 && number <= pageCount; };
-            if (std::none_of(numbers.begin(), numbers.end(), exists))
-                throw CommandFailure(ExitCode::WrongUsage,
-                    u"--pages %1: %2 has %3, and the range names none of them"_s.arg(
-                        range, input, pageCount == 1 ? u"1 page"_s : u"%1 pages"_s.arg(pageCount)));
-            return numbers;
-        } catch (const NamedException& exception) {
-            throw CommandFailure(
-                ExitCode::WrongUsage, u"--pages %1: %2"_s.arg(range, exception.reason()));
-        }
-    }
 
     void reportPage(const PageReport& page, PublishReport& report)
     {
@@ -75,23 +55,22 @@ namespace {
         const auto document = openPDF({ path, password, options.limits });
         if (document->isRepaired())
             report.warnings.append(u"%1 is damaged; what could be mended was read"_s.arg(path));
-        pageNumbers(options, path, document->pageCount());
+        pageNumbers(fromArgument(options.pages), path, document->pageCount());
 
         PageInput input = importPDF(options, document);
         for (const PageReport& page :
             dynamic_cast<const FlashPageSourcePDF&>(*input.pageSource).pageReports())
             reportPage(page, report);
         takeFirstPageSize(*document, input);
-        input.title
-            = document->title().isEmpty() ? QFileInfo(path).completeBaseName() : document->title();
+        input.title = document->title().isEmpty() ? nameOfInput(path) : document->title();
         return input;
     }
 
     PageInput readImages(const PublishOptions& options, PublishReport& report)
     {
         const QStringList paths = imagePaths(options.inputs());
-        const auto numbers
-            = pageNumbers(options, options.inputs().join(u", "_s), static_cast<int>(paths.size()));
+        const auto numbers = pageNumbers(fromArgument(options.pages),
+            options.inputs().join(u", "_s), static_cast<int>(paths.size()));
         const auto source = std::make_shared<FlashPageSourceImg>();
         for (const qint32 number : numbers) {
             if (number < 1 || number > paths.size()) {
@@ -105,9 +84,8 @@ namespace {
         source->generateNormalPages();
 
         const QSize size = QImageReader(source->pages().front()->pageFilePath()).size();
-        const QString name = QFileInfo(QFileInfo(options.inputs().constFirst()).absoluteFilePath())
-                                 .completeBaseName();
-        return { source, nullptr, nullptr, name, size.width(), size.height() };
+        return { source, nullptr, nullptr, nameOfInput(options.inputs().constFirst()), size.width(),
+            size.height() };
     }
 
     bool isAllImages(const QStringList& inputs)

@@ -36,7 +36,7 @@ QString PasswordOptions::chosen() const
     if (!password.empty())
         return fromArgument(password);
     return file.empty() ? qEnvironmentVariable("LEAFCAST_PASSWORD")
-                        : firstLineOf(fromArgument(file));
+                        : firstLineOf(pathFromArgument(file));
 }
 
 } // namespace leafcast

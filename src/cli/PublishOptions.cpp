@@ -2,7 +2,12 @@
 #include "cli/PublishOptions.h"
 
 #include "cli/Command.h"
+#include "cli/InputName.h"
 #include "pages/ImportQuality.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
 
 namespace leafcast {
 
@@ -64,8 +69,16 @@ namespace {
         command.add_flag("--force", options.force, "Write over what is no book of ours");
         command.add_flag("--open", options.open, "Open the book afterwards");
         command.add_flag("-q,--quiet", options.quiet, "Say nothing but errors");
-        command.add_flag("-v,--verbose", options.verbose, "Show the log's warnings too");
         command.add_flag("--json", options.json, "Write a report as JSON to standard output");
+    }
+
+    QString fileName(const std::string& name)
+    {
+        const QString text = fromArgument(name);
+        if (text.contains(u'/') || QFileInfo(text).completeBaseName().isEmpty())
+            throw CommandFailure(ExitCode::WrongUsage,
+                u"--name %1: it must be a file name without a folder"_s.arg(text));
+        return text;
     }
 
 } // namespace
@@ -90,13 +103,31 @@ QStringList PublishOptions::inputs() const
 {
     QStringList paths;
     for (size_t i = 0; i + 1 < inputsAndOutput.size(); ++i)
-        paths.append(fromArgument(inputsAndOutput[i]));
+        paths.append(pathFromArgument(inputsAndOutput[i]));
     return paths;
 }
 
 QString PublishOptions::outputFolder() const
 {
-    return fromArgument(inputsAndOutput.back());
+    return pathFromArgument(inputsAndOutput.back());
+}
+
+QString PublishOptions::packageName() const
+{
+    const QString packageName = name.empty() ? nameOfInput(inputs().constFirst())
+                                             : QFileInfo(fileName(name)).completeBaseName();
+    if (packageName.isEmpty())
+        throw CommandFailure(
+            ExitCode::WrongUsage, u"the package needs a name: give one with --name"_s);
+    return packageName;
+}
+
+QString PublishOptions::pageFileName() const
+{
+    if (name.empty())
+        return {};
+    const QString page = fileName(name);
+    return QFileInfo(page).suffix().isEmpty() ? page + u".html"_s : page;
 }
 
 int PublishOptions::quality() const

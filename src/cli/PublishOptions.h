@@ -26,13 +26,17 @@ struct PublishOptions {
     bool force = false;
     bool open = false;
     bool quiet = false;
-    bool verbose = false;
     bool json = false;
 
     void addTo(CLI::App& command);
 
     QStringList inputs() const;
     QString outputFolder() const;
+    /// The name of the package, without extension. Throws CommandFailure for one that is none.
+    QString packageName() const;
+    /// The file name of the page; a null string where the writer is to choose. Throws
+    /// CommandFailure.
+    QString pageFileName() const;
     /// The JPEG quality (0 to 100) of the quality level.
     int quality() const;
 };

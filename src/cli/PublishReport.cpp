@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "cli/PublishReport.h"
 
+#include "cli/DataSize.h"
+#include "cli/PageNumbers.h"
+
 #include <algorithm>
 #include <cmath>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLocale>
 
 using namespace Qt::StringLiterals;
 
@@ -55,9 +57,8 @@ QByteArray PublishReport::asJson() const
 
 QString PublishReport::summary() const
 {
-    const QString pages = pageCount == 1 ? u"1 page"_s : u"%1 pages"_s.arg(pageCount);
-    const QString size = QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
-    return u"%1, %2, in %3 s"_s.arg(pages, size).arg(importSeconds + writeSeconds, 0, 'f', 1);
+    return u"%1, %2, in %3 s"_s.arg(countOfPages(pageCount), dataSize(bytes),
+        QString::number(importSeconds + writeSeconds, 'f', 1));
 }
 
 QStringList PublishReport::missingPageSentences() const

@@ -18,11 +18,11 @@ struct PublishReport {
     QString input;
     QString output; // the folder or the package
     QString page; // the file to open
-    QString title;
+    QString title; // plain text
     int pageCount = 0;
     qint64 bytes = 0; // of the page pictures
     std::vector<MissingPage> missingPages;
-    QStringList missingFiles; // of the book, relative to it
+    QStringList missingFiles; // of the book, relative to output
     QStringList warnings;
     double importSeconds = 0;
     double writeSeconds = 0;

@@ -50,12 +50,17 @@ namespace {
             printProperty(*child, depth + 1);
     }
 
+    void say(const QStringList& warnings)
+    {
+        for (const QString& warning : warnings)
+            Console::say(warning);
+    }
+
     std::shared_ptr<FlashTemplate> load(const SettingsOptions& options)
     {
         QStringList warnings;
         auto flashTemplate = loadChosenTemplate(options.templateOptions, warnings);
-        for (const QString& warning : warnings)
-            Console::say(warning);
+        say(warnings);
         return flashTemplate;
     }
 
@@ -74,11 +79,22 @@ namespace {
         return ExitCode::Complete;
     }
 
+    QString whyUnwritable(const QString& path)
+    {
+        const QFileInfo folder(QFileInfo(path).absolutePath());
+        if (!folder.isDir())
+            return u"the folder %1 does not exist"_s.arg(folder.filePath());
+        if (QFileInfo(path).isDir())
+            return u"it is a folder"_s;
+        return folder.isWritable() ? u"the disk is full or failing"_s
+                                   : u"its folder is read-only"_s;
+    }
+
     void exportTo(const FlashTemplate& flashTemplate, const QString& path)
     {
         if (!flashTemplate.exportPropertiesSettingsTo(path))
-            throw CommandFailure(
-                ExitCode::OutputNotWritable, u"the settings file %1 can't be written"_s.arg(path));
+            throw CommandFailure(ExitCode::OutputNotWritable,
+                u"the settings file %1 can't be written: %2"_s.arg(path, whyUnwritable(path)));
     }
 
     // A settings file's name gets the extension that the open panels of other people's programs
@@ -90,42 +106,83 @@ namespace {
 
     ExitCode exportSettings(const SettingsOptions& options)
     {
-        const QString path = withExtension(fromArgument(options.file));
+        const QString path = withExtension(pathFromArgument(options.file));
         exportTo(*load(options), path);
         Console::writeLine(path);
         return ExitCode::Complete;
     }
 
-    void printDifferences(const FlashTemplate& before, const FlashTemplateProperties& after)
+    using Values
+        = std::vector<std::pair<QString, QString>>; // key and value, in the order of the tree
+
+    void collect(const FlashTemplateProperties& properties, Values& values)
     {
-        for (const auto& property : after) {
-            const QString former = before.propertyValueFor(property->key(), QString());
-            if (former != property->value())
-                Console::writeLine(
-                    u"%1: %2 -> %3"_s.arg(property->key(), former, property->value()));
-            printDifferences(before, property->childProperties());
+        for (const auto& property : properties) {
+            values.emplace_back(property->key(), property->value());
+            collect(property->childProperties(), values);
         }
     }
 
-    ExitCode importSettings(SettingsOptions options)
+    Values valuesOf(const FlashTemplate& flashTemplate)
     {
-        const auto before = load(options);
-        options.templateOptions.settingsFile = options.file;
-        const auto after = load(options);
-        printDifferences(*before, after->properties());
+        Values values;
+        collect(flashTemplate.properties(), values);
+        return values;
+    }
+
+    ExitCode importSettings(const SettingsOptions& options)
+    {
+        const auto flashTemplate = load(options);
+        const Values before = valuesOf(*flashTemplate);
+        QStringList warnings;
+        applySettingsFile(*flashTemplate, pathFromArgument(options.file), warnings);
+        say(warnings);
+        const Values after = valuesOf(*flashTemplate);
+        for (size_t i = 0; i < after.size(); ++i)
+            if (before.at(i) != after.at(i))
+                Console::writeLine(u"%1: %2 -> %3"_s.arg(
+                    after.at(i).first, before.at(i).second, after.at(i).second));
         if (!options.output.empty())
-            exportTo(*after, withExtension(fromArgument(options.output)));
+            exportTo(*flashTemplate, withExtension(pathFromArgument(options.output)));
         return ExitCode::Complete;
     }
 
     using Options = std::shared_ptr<SettingsOptions>;
 
-    CLI::App* addPart(
-        CLI::App& parent, const char* name, const char* description, const Options& options)
+    template <typename Run>
+    CLI::App* addPart(CLI::App& parent, const char* name, const char* description,
+        const Options& options, Action& chosen, Run run)
     {
         CLI::App* part = parent.add_subcommand(name, description);
         options->templateOptions.addTo(*part);
+        part->callback(
+            [&chosen, options, run] { chosen = [options, run] { return run(*options); }; });
         return part;
+    }
+
+    void addShow(CLI::App& parent, const Options& options, Action& chosen)
+    {
+        addPart(parent, "show", "Show every property with its value", options, chosen, show)
+            ->add_flag("--json", options->json, "Write the properties as JSON");
+    }
+
+    void addExport(CLI::App& parent, const Options& options, Action& chosen)
+    {
+        addPart(parent, "export", "Write all values to a settings file", options, chosen,
+            exportSettings)
+            ->add_option(
+                "FILE", options->file, "File to write; .txt is added when it has no extension")
+            ->required()
+            ->type_name("");
+    }
+
+    void addImport(CLI::App& parent, const Options& options, Action& chosen)
+    {
+        CLI::App* part = addPart(parent, "import", "Try a settings file: show what it changes",
+            options, chosen, importSettings);
+        part->add_option("FILE", options->file, "Settings file to read")->required()->type_name("");
+        part->add_option(
+            "--output", options->output, "Write the values that result to a settings file");
     }
 
 } // namespace
@@ -136,29 +193,9 @@ void addSettingsCommand(CLI::App& program, Action& chosen)
         = program.add_subcommand("settings", "Show, export or try a template's settings");
     command->require_subcommand(1);
     const auto options = std::make_shared<SettingsOptions>();
-
-    CLI::App* showPart = addPart(*command, "show", "Show every property with its value", options);
-    showPart->add_flag("--json", options->json, "Write the properties as JSON");
-    showPart->callback([&chosen, options] { chosen = [options] { return show(*options); }; });
-
-    CLI::App* exportPart
-        = addPart(*command, "export", "Write all values to a settings file", options);
-    exportPart
-        ->add_option("FILE", options->file, "File to write; .txt is added when it has no extension")
-        ->required()
-        ->type_name("");
-    exportPart->callback(
-        [&chosen, options] { chosen = [options] { return exportSettings(*options); }; });
-
-    CLI::App* importPart
-        = addPart(*command, "import", "Try a settings file: show what it changes", options);
-    importPart->add_option("FILE", options->file, "Settings file to read")
-        ->required()
-        ->type_name("");
-    importPart->add_option(
-        "--output", options->output, "Write the values that result to a settings file");
-    importPart->callback(
-        [&chosen, options] { chosen = [options] { return importSettings(*options); }; });
+    addShow(*command, options, chosen);
+    addExport(*command, options, chosen);
+    addImport(*command, options, chosen);
 }
 
 } // namespace leafcast

@@ -2,7 +2,7 @@
 #include "cli/TemplateChoice.h"
 
 #include "cli/Command.h"
-#include "templates/ColorCategory.h"
+#include "templates/PropertyValueCheck.h"
 
 #include <QFileInfo>
 
@@ -20,7 +20,7 @@ namespace {
     QString unusableTemplate(const QString& name, const TemplateLoadOutcome& outcome)
     {
         const QString place = outcome.line > 0
-            ? u"%1, line %2"_s.arg(outcome.file).arg(outcome.line)
+            ? u"%1, line %2"_s.arg(outcome.file, QString::number(outcome.line))
             : outcome.file;
         return u"the template \"%1\" can't be used: %2: %3"_s.arg(name, place, outcome.reason);
     }
@@ -46,75 +46,20 @@ namespace {
         return info.isDir() ? u"it is a folder"_s : u"it can't be read"_s;
     }
 
-    void applySettingsFile(FlashTemplate& flashTemplate, const QString& path, QStringList& warnings)
+    [[noreturn]] void refuseValue(
+        const FlashTemplateProperty& property, const QString& value, const QString& problem)
     {
-        const SettingsImportReport report = flashTemplate.importPropertiesSettingsFrom(path);
-        if (!report.readable)
-            throw CommandFailure(ExitCode::InputUnreadable,
-                u"the settings file %1 can't be used: %2"_s.arg(path, whyUnreadable(path)));
-        if (report.recordCount == 0)
-            throw CommandFailure(ExitCode::InputUnreadable,
-                u"the settings file %1 can't be used: no line of it has the form KEY=VALUE"_s.arg(
-                    path));
-        if (report.encoding == TextEncoding::Latin1)
-            warnings.append(
-                u"the settings file %1 is not UTF-8; it was read as Latin-1"_s.arg(path));
-        for (const QString& key : report.unknownKeys)
-            warnings.append(
-                u"the settings file %1 has a value for \"%2\", which the template \"%3\" does not know"_s
-                    .arg(path, key, flashTemplate.tmplName()));
+        const bool file = property.propertyType() == pt_file;
+        throw CommandFailure(file ? ExitCode::InputUnreadable : ExitCode::WrongUsage,
+            u"--set %1=%2: %3"_s.arg(property.key(), value, problem));
     }
 
-    QString requireNumber(const QString& key, const QString& value)
+    QString checkedValue(const FlashTemplateProperty& property, const QString& typed)
     {
-        bool isNumber = false;
-        value.toDouble(&isNumber);
-        if (!isNumber)
-            throw CommandFailure(
-                ExitCode::WrongUsage, u"--set %1=%2: the value must be a number"_s.arg(key, value));
-        return value;
-    }
-
-    QString requireChoice(const FlashTemplateProperty& property, const QString& value)
-    {
-        const QStringList choices = property.valueSource().split(u',');
-        if (!choices.contains(value))
-            throw CommandFailure(ExitCode::WrongUsage,
-                u"--set %1=%2: the value must be one of %3"_s.arg(
-                    property.key(), value, choices.join(u", "_s)));
-        return value;
-    }
-
-    QString requireFile(const QString& key, const QString& value)
-    {
-        if (value.isEmpty() || value.contains(u"STYLE_RESOURCE:"_s))
-            return value;
-        if (!QFileInfo(value).isFile())
-            throw CommandFailure(
-                ExitCode::InputUnreadable, u"--set %1=%2: there is no such file"_s.arg(key, value));
-        return QFileInfo(value).absoluteFilePath();
-    }
-
-    // People write colours as web pages do.
-    QString colourText(const QString& value)
-    {
-        return value.startsWith(u'#') ? u"0x"_s + value.mid(1).toLower() : value;
-    }
-
-    QString checkedValue(const FlashTemplateProperty& property, const QString& value)
-    {
-        switch (property.propertyType()) {
-        case pt_number:
-            return requireNumber(property.key(), value);
-        case pt_list:
-            return requireChoice(property, value);
-        case pt_file:
-            return requireFile(property.key(), value);
-        case pt_color:
-            return colourText(value);
-        default:
-            return value;
-        }
+        const PropertyValueCheck check = checkPropertyValue(property, typed);
+        if (!check.isAccepted())
+            refuseValue(property, typed, check.problem);
+        return check.value;
     }
 
     void assign(FlashTemplate& flashTemplate, const QString& assignment)
@@ -149,6 +94,24 @@ void TemplateOptions::addTo(CLI::App& command)
         ->take_all();
 }
 
+void applySettingsFile(FlashTemplate& flashTemplate, const QString& path, QStringList& warnings)
+{
+    const SettingsImportReport report = flashTemplate.importPropertiesSettingsFrom(path);
+    if (!report.readable)
+        throw CommandFailure(ExitCode::InputUnreadable,
+            u"the settings file %1 can't be used: %2"_s.arg(path, whyUnreadable(path)));
+    if (report.recordCount == 0)
+        throw CommandFailure(ExitCode::InputUnreadable,
+            u"the settings file %1 can't be used: no line of it has the form KEY=VALUE"_s.arg(
+                path));
+    if (report.encoding == TextEncoding::Latin1)
+        warnings.append(u"the settings file %1 is not UTF-8; it was read as Latin-1"_s.arg(path));
+    for (const QString& key : report.unknownKeys)
+        warnings.append(
+            u"the settings file %1 has a value for \"%2\", which the template \"%3\" does not know"_s
+                .arg(path, key, flashTemplate.tmplName()));
+}
+
 void requireTemplate(const QString& templateName)
 {
     const QStringList names = FlashTemplate::availableTemplates();
@@ -168,7 +131,7 @@ std::shared_ptr<FlashTemplate> loadChosenTemplate(
     if (!options.styleName.empty())
         applyStyle(*flashTemplate, fromArgument(options.styleName));
     if (!options.settingsFile.empty())
-        applySettingsFile(*flashTemplate, fromArgument(options.settingsFile), warnings);
+        applySettingsFile(*flashTemplate, pathFromArgument(options.settingsFile), warnings);
     for (const std::string& assignment : options.assignments)
         assign(*flashTemplate, fromArgument(assignment));
     return flashTemplate;

@@ -24,6 +24,10 @@ struct TemplateOptions {
 std::shared_ptr<FlashTemplate> loadChosenTemplate(
     const TemplateOptions& options, QStringList& warnings);
 
+/// Applies a settings file; what is odd but no failure is appended to warnings. Throws
+/// CommandFailure.
+void applySettingsFile(FlashTemplate& flashTemplate, const QString& path, QStringList& warnings);
+
 /// Throws CommandFailure when there is no template of that name.
 void requireTemplate(const QString& templateName);
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "base/LogConfiguration.h"
 #include "cli/Command.h"
 #include "cli/Console.h"
-#include "cli/Interrupt.h"
+#include "cli/LogOptions.h"
 
 #include <clocale>
 #include <QCoreApplication>
@@ -27,17 +26,19 @@ void describe(CLI::App& program)
     program.description("Turns a PDF into a page-turning book that any browser opens.");
     program.set_version_flag("--version", "leafcast " LEAFCAST_VERSION);
     program.require_subcommand(1);
+    program.fallthrough();
     program.footer(footer);
 }
 
 int perform(const Action& action)
-{
-    try {
-        return status(action());
-    } catch (const CommandFailure& failure) {
-        Console::sayError(QString::fromUtf8(failure.what()));
-        return status(failure.code());
-    }
+try {
+    return status(action());
+} catch (const CommandFailure& failure) {
+    Console::sayError(QString::fromUtf8(failure.what()));
+    return status(failure.code());
+} catch (const std::exception& exception) {
+    Console::sayError(QString::fromUtf8(exception.what()));
+    return status(ExitCode::InputUnreadable);
 }
 
 } // namespace
@@ -47,16 +48,18 @@ int main(int argc, char** argv)
     std::setlocale(LC_CTYPE, "");
     CLI::App program;
     describe(program);
+    LogOptions logOptions;
+    logOptions.addTo(program);
     Action action;
     for (const auto& addCommand : { addPublishCommand, addInspectCommand, addTemplatesCommand,
              addStylesCommand, addSettingsCommand })
         addCommand(program, action);
     try {
-        program.parse(argc, argv);
+        program.parse(protectedArguments(argc, argv));
     } catch (const CLI::ParseError& error) {
         return program.exit(error) == 0 ? 0 : status(ExitCode::WrongUsage);
     }
     const QCoreApplication application(argc, argv);
-    Interrupt::listen();
+    logOptions.configure();
     return perform(action);
 }

@@ -26,6 +26,20 @@ namespace {
         process.setWorkingDirectory(folder);
     }
 
+    /// Until the program has started one of the PDF service, which it does after it began to
+    /// listen.
+    void waitForWorkers(qint64 pid)
+    {
+        QFile children(u"/proc/%1/task/%1/children"_s.arg(pid));
+        for (int tries = 0; tries < patienceMilliseconds / 10; ++tries) {
+            if (children.open(QIODevice::ReadOnly) && !children.readAll().isEmpty())
+                return;
+            children.close();
+            QThread::msleep(10);
+        }
+        ADD_FAILURE() << "no worker was started";
+    }
+
     Outcome finish(QProcess& process)
     {
         EXPECT_TRUE(process.waitForFinished(patienceMilliseconds));
@@ -55,7 +69,7 @@ Outcome CommandLineTest::runInterrupted(const QStringList& arguments) const
     prepare(process, iFolder.path(), {});
     process.start(QStringLiteral(LEAFCAST_PROGRAM), arguments);
     EXPECT_TRUE(process.waitForStarted());
-    QThread::msleep(300);
+    waitForWorkers(process.processId());
     kill(static_cast<pid_t>(process.processId()), SIGINT);
     return finish(process);
 }

@@ -22,7 +22,7 @@ struct Outcome {
 /// Tests that run the program as a user would, in a folder of their own.
 class CommandLineTest : public testing::Test {
 protected:
-    QString at(const QString& name) const { return iFolder.filePath(name); }
+    QString at(const QString& name) const { return iFolder.path() + u'/' + name; }
 
     /// Runs `leafcast ARGUMENTS` in the test's folder, with further variables such as "NAME=value".
     Outcome run(const QStringList& arguments, const QStringList& variables = {}) const;

@@ -55,6 +55,10 @@ TEST_F(InspectCommand, RefusesWhatItCannotRead)
 {
     EXPECT_EQ(run({ u"inspect"_s, u"missing.pdf"_s }).status, 3);
     EXPECT_EQ(run({ u"inspect"_s }).status, 2);
+    EXPECT_EQ(run({ u"inspect"_s, u"in.pdf"_s, u"--links-xml"_s, u"--pages"_s, u"1-2000000000"_s })
+                  .status,
+        2);
+    EXPECT_EQ(run({ u"inspect"_s, u"in.pdf"_s, u"--json"_s, u"--outline-xml"_s }).status, 2);
 }
 
 } // namespace leafcast

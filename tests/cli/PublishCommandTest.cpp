@@ -39,6 +39,40 @@ TEST_F(PublishCommand, ReportsAsJson)
     EXPECT_FALSE(QFileInfo::exists(at(u"book/files/page/1.jpg"_s)));
 }
 
+TEST_F(PublishCommand, ReportsThePlainTitleAndWhatWasWritten)
+{
+    writeNumberedPDF(u"R&D.pdf"_s, 1);
+    const QJsonObject book = run({ u"publish"_s, u"R&D.pdf"_s, u"book"_s, u"--json"_s }).json();
+    EXPECT_EQ(book[u"title"_s], u"R&D"_s);
+    EXPECT_EQ(book[u"output"_s], at(u"book"_s));
+
+    const QJsonObject package
+        = run({ u"publish"_s, u"R&D.pdf"_s, u"out"_s, u"--app"_s, u"--json"_s }).json();
+    EXPECT_EQ(package[u"output"_s], at(u"out/R&D.app"_s));
+    EXPECT_EQ(package[u"page"_s], at(u"out/R&D.app/Contents/Resources/index.html"_s));
+}
+
+TEST_F(PublishCommand, TakesNamesThatLookLikeSomethingElse)
+{
+    writePicture(u"[2023]/:a.jpg"_s, 30, 40);
+    writePicture(u":b.jpg"_s, 30, 40);
+    EXPECT_EQ(run({ u"publish"_s, u"[2023]"_s, u"[odd], place"_s }).status, 0);
+    EXPECT_TRUE(QFileInfo::exists(at(u"[odd], place/files/page/1.jpg"_s)));
+    EXPECT_EQ(run({ u"publish"_s, u":b.jpg"_s, u":out"_s }).status, 0);
+    EXPECT_TRUE(QFileInfo::exists(at(u":out/files/page/1.jpg"_s)));
+    EXPECT_EQ(run({ u"publish"_s, u"[2023]/"_s, u"out"_s, u"--app"_s }).status, 0);
+    EXPECT_TRUE(QFileInfo::exists(at(u"out/[2023].app"_s)));
+}
+
+TEST_F(PublishCommand, APageSizeThatIsAskedForBeatsTheDocuments)
+{
+    writeNumberedPDF(u"in.pdf"_s, 1);
+    run({ u"publish"_s, u"in.pdf"_s, u"book"_s, u"--set"_s, u"pageWidth=500"_s });
+    const QByteArray script = readTestFile(at(u"book/javascript/main.js"_s));
+    EXPECT_TRUE(script.contains("pageWidth:500,"));
+    EXPECT_TRUE(script.contains("pageHeight:792,"));
+}
+
 TEST_F(PublishCommand, TakesTheTitleFromOptionDocumentOrFileAndEscapesTheLastTwo)
 {
     PDFBuilder titled;
@@ -93,6 +127,7 @@ TEST_F(PublishCommand, TakesAFolderOfPicturesInNaturalOrder)
     writePicture(u"scans/10.jpg"_s, 30, 40);
     writePicture(u"scans/9.jpg"_s, 60, 80);
     writeTestFile(at(u"scans/notes.txt"_s), "no picture");
+    writeTestFile(at(u"scans/._9.jpg"_s), "the companion that some systems leave");
     const Outcome outcome = run({ u"publish"_s, u"scans"_s, u"book"_s });
 
     EXPECT_EQ(outcome.status, 0) << outcome.errors.toStdString();

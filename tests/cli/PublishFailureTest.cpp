@@ -145,7 +145,32 @@ TEST_F(PublishFailure, OutputsThatCannotBeWritten)
     writeTestFile(at(u"file"_s), "kept");
     expectFailure({ u"in.pdf"_s, u"file"_s }, 4, { "file" });
     expectFailure({ u"in.pdf"_s, u"file/below"_s }, 4, { "file/below" });
+    expectFailure({ u"in.pdf"_s, u""_s }, 2, { "no name" });
     EXPECT_EQ(readTestFile(at(u"file"_s)), "kept");
+}
+
+TEST_F(PublishFailure, InputsThatTheOutputWouldReplace)
+{
+    writePicture(u"book/files/page/1.jpg"_s, 30, 40);
+    writePicture(u"out/Album.app/Contents/Resources/files/page/1.jpg"_s, 30, 40);
+    const auto refused = [this](const QStringList& arguments, const QString& kept) {
+        const Outcome outcome = run(QStringList{ u"publish"_s, u"--force"_s } + arguments);
+        EXPECT_EQ(outcome.status, 4) << outcome.errors.toStdString();
+        EXPECT_TRUE(outcome.errors.contains("would replace")) << outcome.errors.toStdString();
+        EXPECT_TRUE(QFileInfo::exists(at(kept)));
+    };
+    refused({ u"book/files/page/1.jpg"_s, u"book"_s }, u"book/files/page/1.jpg"_s);
+    refused({ u"out/Album.app/Contents/Resources/files/page"_s, u"out"_s, u"--app"_s, u"--name"_s,
+                u"Album"_s },
+        u"out/Album.app/Contents/Resources/files/page/1.jpg"_s);
+}
+
+TEST_F(PublishFailure, ValuesThatBreakTheScriptAreToldBeforehand)
+{
+    writeNumberedPDF(u"in.pdf"_s, 1);
+    const Outcome outcome
+        = run({ u"publish"_s, u"in.pdf"_s, u"book"_s, u"--set"_s, u"bookTitle=He said \"hi\""_s });
+    EXPECT_TRUE(outcome.errors.contains("bookTitle")) << outcome.errors.toStdString();
 }
 
 TEST_F(PublishFailure, ASettingsFileInLatin1IsReadWithAWarning)
@@ -177,15 +202,17 @@ TEST_F(PublishFailure, PagesThatFailAreNamedAndTheRestIsWritten)
     EXPECT_TRUE(QFileInfo::exists(at(u"book/files/page/2.jpg"_s)));
 }
 
-TEST_F(PublishFailure, ATruncatedPDFIsMendedOrRefusedInOneSentence)
+TEST_F(PublishFailure, ATruncatedPDFIsMendedAndSaidSoOrRefused)
 {
-    const QString whole = writeNumberedPDF(u"whole.pdf"_s, 5);
-    const QByteArray bytes = readTestFile(whole);
-    writeTestFile(at(u"cut.pdf"_s), bytes.left(bytes.size() * 3 / 4));
+    const QByteArray whole = readTestFile(writeNumberedPDF(u"whole.pdf"_s, 5));
+    writeTestFile(at(u"cut.pdf"_s), whole.left(whole.lastIndexOf("startxref")));
+    writeTestFile(at(u"half.pdf"_s), whole.left(whole.size() / 2));
+
+    expectFailure({ u"half.pdf"_s, u"book"_s }, 3, { "half.pdf", "damaged" });
     const Outcome outcome = run({ u"publish"_s, u"cut.pdf"_s, u"book"_s });
-    EXPECT_TRUE(outcome.status == 0 || outcome.status == 1 || outcome.status == 3)
-        << outcome.status;
-    EXPECT_TRUE(outcome.errors.contains("cut.pdf")) << outcome.errors.toStdString();
+    EXPECT_EQ(outcome.status, 0) << outcome.errors.toStdString();
+    EXPECT_TRUE(outcome.errors.contains("cut.pdf is damaged")) << outcome.errors.toStdString();
+    EXPECT_TRUE(QFileInfo::exists(at(u"book/files/page/5.jpg"_s)));
 }
 
 TEST_F(PublishFailure, AHugePageIsDrawnSmallerAndSaidSo)

@@ -24,6 +24,10 @@ TEST_F(LibraryCommands, SettingsGoOutAndComeBack)
         = run({ u"settings"_s, u"import"_s, u"mine.txt"_s, u"--output"_s, u"again.txt"_s });
     EXPECT_EQ(outcome.output, "bookTitle:  -> a=b\n");
     EXPECT_EQ(readTestFile(at(u"again.txt"_s)), readTestFile(at(u"mine.txt"_s)));
+    writeTestFile(at(u"colour.txt"_s), "linkColor=0x000001\n");
+    EXPECT_EQ(
+        run({ u"settings"_s, u"import"_s, u"colour.txt"_s, u"--settings"_s, u"mine.txt"_s }).output,
+        "linkColor: 0x2f7d4f -> 0x000001\n");
     EXPECT_TRUE(run({ u"settings"_s, u"show"_s, u"--settings"_s, u"mine.txt"_s })
                     .output.contains("bookTitle=a=b\n"));
 }

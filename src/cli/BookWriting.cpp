@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "cli/BookWriting.h"
+
+#include "cli/Command.h"
+#include "cli/Interrupt.h"
+#include "cli/WatchedWork.h"
+#include "publish/BookCheck.h"
+#include "publish/FlashBookOutput.h"
+#include "publish/FlashBookOutputApp.h"
+#include "publish/HTMLConfigInfo.h"
+
+#include <algorithm>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast {
+
+namespace {
+
+    QString title(const BookParts& parts)
+    {
+        return parts.options.title ? fromArgument(*parts.options.title) : parts.input.title;
+    }
+
+    std::shared_ptr<HTMLConfigInfo> htmlConfig(const BookParts& parts)
+    {
+        auto config = std::make_shared<HTMLConfigInfo>();
+        // What a person typed may hold markup; what a file says may not.
+        config->setHTMLTitle(parts.options.title ? title(parts) : title(parts).toHtmlEscaped());
+        return config;
+    }
+
+    bool isAssigned(const TemplateOptions& options, const std::string& key)
+    {
+        return std::ranges::any_of(options.assignments,
+            [&](const std::string& assignment) { return assignment.starts_with(key + '='); });
+    }
+
+    // The page size follows the document, unless somebody asked for another one.
+    void takePageSize(const BookParts& parts)
+    {
+        const auto take = [&](const char* key, int size) {
+            if (size > 0 && !isAssigned(parts.options.templateOptions, key))
+                parts.flashTemplate->setPropertyValue(
+                    QString::fromLatin1(key), QString::number(size));
+        };
+        take("pageWidth", parts.input.pageWidth);
+        take("pageHeight", parts.input.pageHeight);
+    }
+
+    std::unique_ptr<FlashBookOutput> makeWriter(const BookParts& parts)
+    {
+        const QString folder = parts.place.folder();
+        if (parts.options.app)
+            return std::make_unique<FlashBookOutputApp>(parts.input.pageSource, parts.flashTemplate,
+                folder, parts.options.packageName() + u".app"_s);
+        return std::make_unique<FlashBookOutput>(
+            parts.input.pageSource, parts.flashTemplate, folder, parts.options.pageFileName());
+    }
+
+    void configure(FlashBookOutput& writer, const BookParts& parts)
+    {
+        writer.setHTMLConfig(htmlConfig(parts));
+        writer.setFlashPagesAnnotations(parts.input.links);
+        writer.setFlashOutline(parts.input.outline);
+        writer.setWorkerCount(parts.options.jobs);
+    }
+
+    void runWriter(FlashBookOutput& writer, PublishReport& report)
+    {
+        QElapsedTimer clock;
+        clock.start();
+        WatchedWork{
+            .work = [&] { writer.ouputTheBook(); },
+            .cancel = [&] { writer.flashPageSource()->setStop(true); }
+        }.run();
+        report.writeSeconds = static_cast<double>(clock.elapsed()) / 1000;
+        if (Interrupt::isRequested())
+            throw CommandFailure(ExitCode::Interrupted,
+                u"interrupted; the book in %1 may be incomplete"_s.arg(report.output));
+    }
+
+    bool isReported(const PublishReport& report, int pageNumber)
+    {
+        return std::ranges::any_of(report.missingPages,
+            [pageNumber](const auto& page) { return page.number == pageNumber; });
+    }
+
+    void checkBook(const FlashBookOutput& writer, PublishReport& report)
+    {
+        const BookCheck check(writer);
+        for (const int pageNumber : check.pagesWithoutPicture)
+            if (!isReported(report, pageNumber))
+                report.missingPages.push_back(
+                    { pageNumber, u"its picture could not be copied into the book"_s });
+        for (const QString& file : check.missingFiles)
+            report.missingFiles.append(QDir(report.output).relativeFilePath(file));
+    }
+
+    // Without reader data a player knows the number of pages, and nothing else of their files.
+    void warnOfUnlistedPages(const FlashBookOutput& writer, PublishReport& report)
+    {
+        if (writer.wantsReaderData())
+            return;
+        int place = 0;
+        for (const auto& page : writer.flashPageSource()->normalPages())
+            if (page->pageIndex() != ++place || !page->pageFilePath().endsWith(u".jpg")) {
+                report.warnings.append(
+                    u"without reader data a player finds only pages numbered from 1 that are .jpg files"_s);
+                return;
+            }
+    }
+
+} // namespace
+
+void writeBook(const BookParts& parts, PublishReport& report)
+{
+    takePageSize(parts);
+    const auto writer = makeWriter(parts);
+    configure(*writer, parts);
+    parts.place.requireRoomFor(*writer);
+    parts.place.makeFolder();
+    report.title = title(parts);
+    report.output = parts.place.bookPath();
+    report.page = QFileInfo(writer->outputHTMLFileName()).absoluteFilePath();
+    runWriter(*writer, report);
+    checkBook(*writer, report);
+    warnOfUnlistedPages(*writer, report);
+}
+
+} // namespace leafcast

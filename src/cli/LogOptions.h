@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+namespace leafcast {
+
+/// What every command tells of its work: nothing, unless asked for.
+struct LogOptions {
+    bool verbose = false;
+    std::string logFile;
+
+    void addTo(CLI::App& program);
+    void configure() const;
+};
+
+} // namespace leafcast
