@@ -3,9 +3,9 @@
 
 #include "base/FileCopy.h"
 #include "base/Log.h"
+#include "base/SystemError.h"
 
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <QDir>
 #include <QDirIterator>
@@ -124,7 +124,11 @@ bool writeAtomically(const QString& path, const QByteArray& bytes)
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return failed("write", path, file.errorString());
-    file.write(bytes);
+    // A QSaveFile that was written short, or not flushed, commits what there is all the same. Of a
+    // short write it does not know the reason, but the system does.
+    errno = 0;
+    if (file.write(bytes) != bytes.size() || !file.flush())
+        return failed("write", path, errno ? systemErrorText() : file.errorString());
     return file.commit() || failed("write", path, file.errorString());
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/FileSteps.h"
 
+#include "support/FileSizeLimit.h"
 #include "support/LogCapture.h"
 #include "support/TestFiles.h"
 
@@ -104,6 +105,19 @@ TEST_F(FileStepsTest, AFolderCopyHoldsFilesAndFoldersButNoLinks)
     EXPECT_EQ(readTestFile(at(u"b/link"_s)), "2");
     EXPECT_FALSE(QFileInfo(at(u"b/link"_s)).isSymLink());
     EXPECT_FALSE(FileSteps::exists(at(u"b/pipe"_s)));
+}
+
+TEST_F(FileStepsTest, AWriteThatTheDiskHasNoRoomForLeavesTheOlderFile)
+{
+    const QString path = writeTestFile(at(u"book"_s), "older");
+    const FileSizeLimit limit(1000);
+    for (const qsizetype size : { 5'000, 50'000 })
+        EXPECT_FALSE(FileSteps::writeAtomically(path, QByteArray(size, 'x'))) << size;
+    EXPECT_EQ(readTestFile(path), "older");
+    EXPECT_EQ(QDir(iFolder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    EXPECT_EQ(iLog.lines().filter(u"File too large"_s).size(), 2)
+        << iLog.lines().join(u"\n"_s).toStdString();
+    EXPECT_EQ(iLog.lines().size(), 2);
 }
 
 TEST_F(FileStepsTest, RemovingTakesALinkButNotItsTarget)
