@@ -2,10 +2,10 @@
 #include "base/FileCopy.h"
 
 #include "base/FileDescriptor.h"
+#include "base/SystemError.h"
 
 #include <array>
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <linux/fs.h>
 #include <QByteArray>
@@ -84,13 +84,13 @@ namespace {
 
 } // namespace
 
-bool FileCopy::fail(const char* step) const
+bool FileCopy::fail(const char* step)
 {
-    iError = u"%1: %2"_s.arg(QLatin1StringView(step), QString::fromLocal8Bit(std::strerror(errno)));
+    iError = u"%1: %2"_s.arg(QLatin1StringView(step), systemErrorText());
     return false;
 }
 
-bool FileCopy::placeAt(const QString& destination, WhenTaken whenTaken) const
+bool FileCopy::placeAt(const QString& destination, WhenTaken whenTaken)
 {
     const FileDescriptor from(
         open(QFile::encodeName(iSource).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));

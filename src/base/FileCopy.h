@@ -17,15 +17,15 @@ public:
     }
 
     /// Modification time and permissions go along. False with error() set when anything failed.
-    [[nodiscard]] bool placeAt(const QString& destination, WhenTaken whenTaken) const;
+    [[nodiscard]] bool placeAt(const QString& destination, WhenTaken whenTaken);
 
     const QString& error() const { return iError; }
 
 private:
-    bool fail(const char* step) const;
+    bool fail(const char* step);
 
     QString iSource;
-    mutable QString iError;
+    QString iError;
 };
 
 } // namespace leafcast

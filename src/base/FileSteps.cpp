@@ -2,13 +2,12 @@
 #include "base/FileSteps.h"
 
 #include "base/FileCopy.h"
+#include "base/FolderCopy.h"
 #include "base/Log.h"
 #include "base/SystemError.h"
 
-#include <cerrno>
 #include <filesystem>
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -42,13 +41,6 @@ namespace {
             && source.lastModified() == destination.lastModified();
     }
 
-    bool copyEntry(const QFileInfo& entry, const QString& destination)
-    {
-        if (entry.isDir())
-            return copyFolder(entry.filePath(), destination);
-        return copyFile(entry.filePath(), destination);
-    }
-
 } // namespace
 
 bool exists(const QString& path)
@@ -80,7 +72,7 @@ bool makeFolder(const QString& path)
 
 bool copyFile(const QString& source, const QString& destination)
 {
-    const FileCopy copy(source);
+    FileCopy copy(source);
     if (!copy.placeAt(destination, FileCopy::WhenTaken::Fail))
         return failed("copy", source, u"to %1: %2"_s.arg(destination, copy.error()));
     return true;
@@ -97,25 +89,18 @@ bool replaceFile(const QString& source, const QString& destination)
         return true;
     if (QFileInfo(destination).isDir() && !remove(destination))
         return false;
-    const FileCopy copy(source);
+    FileCopy copy(source);
     if (!copy.placeAt(destination, FileCopy::WhenTaken::Replace))
         return failed("copy", source, u"to %1: %2"_s.arg(destination, copy.error()));
     return true;
 }
 
-bool copyFolder(const QString& source, const QString& destination)
+bool copyFolder(const QString& source, const QString& destination, QString* reason)
 {
-    if (!QFileInfo(source).isDir())
-        return failed("copy the folder", source, u"it is not a folder"_s);
-    if (exists(destination))
-        return failed("copy the folder", source, u"to %1: something lies there"_s.arg(destination));
-    if (!makeFolder(destination))
-        return false;
-
-    const auto regular = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
-    bool complete = true;
-    for (const QFileInfo& entry : QDir(source).entryInfoList(regular, QDir::Name))
-        complete &= copyEntry(entry, destination + u'/' + entry.fileName());
+    FolderCopy copy(source);
+    const bool complete = copy.placeAt(destination);
+    if (reason)
+        *reason = copy.error();
     return complete;
 }
 

@@ -31,9 +31,10 @@ bool copyFile(const QString& source, const QString& destination);
 /// alone; an older one is swapped for the copy in one step; without a source it is removed.
 bool replaceFile(const QString& source, const QString& destination);
 
-/// Copies a folder with everything below it to a path where nothing lies yet. Links are followed;
-/// whatever is neither a file nor a folder is left out. Goes on after a file that fails.
-bool copyFolder(const QString& source, const QString& destination);
+/// Copies a folder with everything below it to a path where nothing lies yet, and not inside the
+/// folder. Links are followed; whatever is neither a file nor a folder is left out, and a folder
+/// that links lead back to. Goes on after a file that fails; reason gets the first failure.
+bool copyFolder(const QString& source, const QString& destination, QString* reason = nullptr);
 
 /// Writes to a temporary file beside the path, then replaces the path with it. A failure leaves the
 /// older file.

@@ -2,10 +2,10 @@
 #include "pdf/HiddenPictures.h"
 
 #include "base/FileCopy.h"
+#include "base/SystemError.h"
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <QFile>
 
 using namespace Qt::StringLiterals;
@@ -23,8 +23,8 @@ namespace {
             == 0)
             return {};
         if (errno != EXDEV)
-            return QString::fromLocal8Bit(std::strerror(errno));
-        const FileCopy copy(from);
+            return systemErrorText();
+        FileCopy copy(from);
         if (!copy.placeAt(to, FileCopy::WhenTaken::Replace))
             return copy.error();
         QFile::remove(from);

@@ -107,6 +107,49 @@ TEST_F(FileStepsTest, AFolderCopyHoldsFilesAndFoldersButNoLinks)
     EXPECT_FALSE(FileSteps::exists(at(u"b/pipe"_s)));
 }
 
+TEST_F(FileStepsTest, AFolderCopyLeavesOutLinksThatLeadBack)
+{
+    writeTestFile(at(u"a/file"_s), "1");
+    QDir().mkpath(at(u"a/c"_s));
+    QFile::link(u"."_s, at(u"a/here"_s));
+    QFile::link(u".."_s, at(u"a/c/up"_s));
+    QFile::link(at(u"b/c"_s), at(u"a/c/copy"_s));
+    QFile::link(u"c"_s, at(u"a/twice"_s));
+
+    EXPECT_TRUE(FileSteps::copyFolder(at(u"a"_s), at(u"b"_s)));
+
+    const auto all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+    EXPECT_EQ(QDir(at(u"b"_s)).entryList(all, QDir::Name),
+        QStringList({ u"c"_s, u"file"_s, u"twice"_s }));
+    EXPECT_TRUE(QDir(at(u"b/c"_s)).isEmpty(all));
+    EXPECT_EQ(iLog.lines().filter(u"leads back"_s).size(), 5);
+    EXPECT_EQ(iLog.lines().size(), 5);
+}
+
+TEST_F(FileStepsTest, AFolderIsNotCopiedIntoItselfAndTheReasonIsHandedOut)
+{
+    writeTestFile(at(u"a/deep/file"_s), "1");
+    QString reason;
+    EXPECT_FALSE(FileSteps::copyFolder(at(u"a"_s), at(u"a/deep/copy"_s), &reason));
+    EXPECT_TRUE(reason.endsWith(u"that is inside it"_s)) << reason.toStdString();
+    EXPECT_FALSE(FileSteps::exists(at(u"a/deep/copy"_s)));
+    EXPECT_TRUE(FileSteps::copyFolder(at(u"a"_s), at(u"ab"_s), &reason));
+    EXPECT_TRUE(reason.isEmpty());
+}
+
+TEST_F(FileStepsTest, AFolderCopyGoesOnAfterAFileThatFailsAndTellsOfIt)
+{
+    writeTestFile(at(u"a/1"_s), QByteArray(5000, 'x'));
+    writeTestFile(at(u"a/2"_s), "small");
+    QString reason;
+    const FileSizeLimit limit(1000);
+    EXPECT_FALSE(FileSteps::copyFolder(at(u"a"_s), at(u"b"_s), &reason));
+    EXPECT_TRUE(reason.contains(at(u"a/1"_s))) << reason.toStdString();
+    EXPECT_EQ(readTestFile(at(u"b/2"_s)), "small");
+    EXPECT_FALSE(FileSteps::exists(at(u"b/1"_s)));
+    EXPECT_EQ(iLog.lines().size(), 1);
+}
+
 TEST_F(FileStepsTest, AWriteThatTheDiskHasNoRoomForLeavesTheOlderFile)
 {
     const QString path = writeTestFile(at(u"book"_s), "older");
