@@ -120,9 +120,8 @@ RenderedPage PDFImageRep::drawPage(int pageIndex, const QString& path)
     RenderedPage page = iPool->draw(pageIndex, path);
     if (!page.written)
         LOG_WARN("PDFImageRep",
-            u"%1: no picture of page %2: %3"_s.arg(iPool->documentPath())
-                .arg(pageIndex + 1)
-                .arg(page.problem));
+            u"%1: no picture of page %2: %3"_s.arg(
+                iPool->documentPath(), QString::number(pageIndex + 1), page.problem));
     return page;
 }
 

@@ -30,7 +30,8 @@ std::vector<PDFTextLine> PDFTextReader::next()
     const PDFServiceAnswer answer = iPool->next();
     if (!answer.isAnswered())
         LOG_WARN("PDFTextReader",
-            u"%1: no text of page %2: %3"_s.arg(iPath).arg(pageNumber).arg(answer.problem));
+            u"%1: no text of page %2: %3"_s.arg(
+                iPath, QString::number(pageNumber), answer.problem));
     return PDFAnswers::textLines(answer.fields);
 }
 
