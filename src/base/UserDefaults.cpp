@@ -21,9 +21,21 @@ namespace {
     QString unusedNameBeside(const QString& path)
     {
         for (int i = 1;; ++i) {
-            const QString candidate = u"%1.damaged-%2"_s.arg(path).arg(i);
+            const QString candidate = u"%1.damaged-%2"_s.arg(path, QString::number(i));
             if (!FileSteps::exists(candidate))
                 return candidate;
+        }
+    }
+
+    QString problemOfLock(QLockFile::LockError error)
+    {
+        switch (error) {
+        case QLockFile::LockFailedError:
+            return u"another process holds its lock"_s;
+        case QLockFile::PermissionError:
+            return u"its folder can't be written"_s;
+        default:
+            return u"its lock can't be made"_s;
         }
     }
 
@@ -31,7 +43,7 @@ namespace {
 
 UserDefaults::UserDefaults(const QString& filePath)
     : iFilePath(filePath)
-    , iValues(readFile())
+    , iValues(readFile().value_or(QJsonObject()))
 {
 }
 
@@ -53,6 +65,8 @@ QJsonValue UserDefaults::objectForKey(const QString& key) const
 void UserDefaults::setObject(const QString& key, const QJsonValue& value)
 {
     const std::lock_guard guard(iMutex);
+    if (iValues.contains(key) && iValues.value(key) == value)
+        return;
     iValues.insert(key, value);
     iChangedKeys.insert(key);
 }
@@ -64,39 +78,45 @@ void UserDefaults::synchronize()
         return;
     QLockFile otherProcesses(iFilePath + u".lock"_s);
     if (!otherProcesses.tryLock(lockWaitMilliseconds)) {
-        LOG_WARN("UserDefaults", u"can't save %1: another process holds its lock"_s.arg(iFilePath));
+        LOG_WARN("UserDefaults",
+            u"can't save %1: %2"_s.arg(iFilePath, problemOfLock(otherProcesses.error())));
         return;
     }
-    QJsonObject merged = readFile();
+    auto merged = readFile();
+    if (!merged)
+        return;
     for (const QString& key : std::as_const(iChangedKeys))
-        merged.insert(key, iValues.value(key));
-    iValues = merged;
-    if (FileSteps::writeAtomically(iFilePath, QJsonDocument(merged).toJson()))
-        iChangedKeys.clear();
+        merged->insert(key, iValues.value(key));
+    if (!FileSteps::writeAtomically(iFilePath, QJsonDocument(*merged).toJson()))
+        return;
+    iValues = *merged;
+    iChangedKeys.clear();
 }
 
-QJsonObject UserDefaults::readFile() const
+std::optional<QJsonObject> UserDefaults::readFile() const
 {
-    if (!FileSteps::exists(iFilePath))
-        return {};
+    if (!QFileInfo::exists(iFilePath))
+        return QJsonObject();
     const auto bytes = FileSteps::read(iFilePath);
     if (!bytes)
-        return {};
+        return std::nullopt;
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(*bytes, &error);
     if (document.isObject())
         return document.object();
-    setAsideDamagedFile(error.error ? error.errorString() : u"it holds no object"_s);
-    return {};
+    if (!setAsideDamagedFile(error.error ? error.errorString() : u"it holds no object"_s))
+        return std::nullopt;
+    return QJsonObject();
 }
 
-void UserDefaults::setAsideDamagedFile(const QString& why) const
+bool UserDefaults::setAsideDamagedFile(const QString& why) const
 {
     const QString asideName = unusedNameBeside(iFilePath);
     const bool moved = QFile::rename(iFilePath, asideName);
     LOG_WARN("UserDefaults",
         u"%1 is damaged (%2); %3"_s.arg(iFilePath, why,
             moved ? u"set aside as "_s + asideName : u"it could not be set aside"_s));
+    return moved;
 }
 
 } // namespace leafcast

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <mutex>
+#include <optional>
 #include <QJsonObject>
 #include <QSet>
 #include <QString>
@@ -20,15 +21,18 @@ public:
 
     /// Undefined for a key that was never stored.
     QJsonValue objectForKey(const QString& key) const;
+    /// A value that is held already counts as unchanged.
     void setObject(const QString& key, const QJsonValue& value);
 
     /// Writes the file atomically, then holds what another process stored meanwhile too. A failure
-    /// leaves the older file and one log line.
+    /// leaves the older file and one log line, and the values are kept for the next time. So does a
+    /// file that can be neither read nor, when damaged, set aside.
     void synchronize();
 
 private:
-    QJsonObject readFile() const;
-    void setAsideDamagedFile(const QString& why) const;
+    /// Empty without a file; none when there is one whose content must not be overwritten.
+    std::optional<QJsonObject> readFile() const;
+    bool setAsideDamagedFile(const QString& why) const;
 
     mutable std::mutex iMutex;
     QString iFilePath;

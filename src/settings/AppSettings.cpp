@@ -89,11 +89,16 @@ AppSettings::AppSettings(UserDefaults& defaults)
     iPageHeight = startPageHeight;
 }
 
-void AppSettings::autoSave() const
+void AppSettings::autoSave()
 {
-    for (const Property& property : properties())
-        std::visit([&](auto field) { iDefaults.setObject(property.key.toString(), this->*field); },
-            property.field);
+    for (const Property& property : properties()) {
+        const QString key = property.key.toString();
+        const QJsonValue value
+            = std::visit([this](auto field) { return QJsonValue(this->*field); }, property.field);
+        if (iStored.value(key) != value)
+            iDefaults.setObject(key, value);
+        iStored.insert(key, value);
+    }
     iDefaults.synchronize();
 }
 
@@ -101,6 +106,7 @@ void AppSettings::autoLoad()
 {
     for (const Property& property : properties()) {
         const QJsonValue value = iDefaults.objectForKey(property.key.toString());
+        iStored.insert(property.key.toString(), value);
         const auto assign = [&](auto field) {
             const auto converted = convert(value, this->*field);
             if (converted)

@@ -21,11 +21,12 @@ public:
     /// an import replaces.
     explicit AppSettings(UserDefaults& defaults);
 
-    void saveSettings() const { autoSave(); }
+    void saveSettings() { autoSave(); }
     void loadSettings() { autoLoad(); }
 
-    /// A failure to write is logged only.
-    void autoSave() const;
+    /// Stores every property but those that are as they were last loaded or saved here: another
+    /// process may have chosen anew meanwhile. A failure to write is logged only.
+    void autoSave();
     /// A value of another kind is converted where it can be, else the property stays as it is.
     void autoLoad();
 
@@ -78,6 +79,7 @@ public:
 
 private:
     UserDefaults& iDefaults;
+    QJsonObject iStored; // as last loaded or saved
     QString iLastImportedFile;
     qint32 iImportPageRangeType = 0;
     QString iImportPageRange;

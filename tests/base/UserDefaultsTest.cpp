@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/UserDefaults.h"
 
+#include "support/FileSizeLimit.h"
 #include "support/LogCapture.h"
 #include "support/TestFiles.h"
 
@@ -58,12 +59,77 @@ TEST_F(UserDefaultsTest, ADamagedFileIsSetAsideWithOneLogLine)
     EXPECT_EQ(log.lines().size(), 1) << log.lines().join(u'\n').toStdString();
 }
 
-TEST_F(UserDefaultsTest, AFailedSaveKeepsTheOldFileAndIsLogged)
+TEST_F(UserDefaultsTest, ADamagedFileKeepsItsNameInAFolderNamedLikeAPlaceholder)
 {
-    writeTestFile(iFolder.filePath(u"config"_s), "a file where the folder must be");
+    const QString file = writeTestFile(iFolder.filePath(u"100%1 %2/defaults.json"_s), "[");
+    const UserDefaults defaults(file);
+    EXPECT_EQ(readTestFile(file + u".damaged-1"_s), "[");
+}
+
+TEST_F(UserDefaultsTest, AnUnchangedValueLeavesAnotherProcesssChoice)
+{
+    UserDefaults(iFile).synchronize();
+    UserDefaults a(iFile);
+    a.setObject(u"a"_s, 1);
+    a.synchronize();
+    UserDefaults b(iFile);
+    a.setObject(u"a"_s, 2);
+    a.synchronize();
+    b.setObject(u"a"_s, 1);
+    b.synchronize();
+    EXPECT_EQ(b.objectForKey(u"a"_s).toInt(), 2);
+}
+
+TEST_F(UserDefaultsTest, AFailedSaveKeepsWhatLiesThereAndIsLogged)
+{
+    const QString blocker
+        = writeTestFile(iFolder.filePath(u"config"_s), "a file where the folder must be");
     UserDefaults defaults(iFile);
     defaults.setObject(u"a"_s, 1);
     const LogCapture log;
     defaults.synchronize();
     EXPECT_EQ(log.lines().size(), 1);
+    EXPECT_EQ(readTestFile(blocker), "a file where the folder must be");
+}
+
+TEST_F(UserDefaultsTest, WhatCannotBeReadIsNotOverwrittenAndTheValuesWait)
+{
+    const QString inside = writeTestFile(iFile + u"/a folder in its place"_s, "kept");
+    UserDefaults defaults(iFile);
+    defaults.setObject(u"a"_s, 1);
+    const LogCapture log;
+    defaults.synchronize();
+    EXPECT_EQ(log.lines().size(), 1);
+    EXPECT_EQ(readTestFile(inside), "kept");
+    EXPECT_EQ(defaults.objectForKey(u"a"_s).toInt(), 1);
+
+    QDir(iFile).removeRecursively();
+    defaults.synchronize();
+    EXPECT_EQ(UserDefaults(iFile).objectForKey(u"a"_s).toInt(), 1);
+}
+
+TEST_F(UserDefaultsTest, AWriteThatFailsKeepsFileAndValues)
+{
+    writeTestFile(iFile, R"({"b": 2})");
+    UserDefaults defaults(iFile);
+    defaults.setObject(u"a"_s, QString(5000, u'x'));
+    const LogCapture log;
+    {
+        const FileSizeLimit limit(1000);
+        defaults.synchronize();
+    }
+    EXPECT_EQ(readTestFile(iFile), R"({"b": 2})");
+    EXPECT_EQ(log.lines().size(), 1);
+    defaults.synchronize();
+    EXPECT_EQ(UserDefaults(iFile).objectForKey(u"a"_s).toString().size(), 5000);
+}
+
+TEST_F(UserDefaultsTest, AFolderThatCannotBeWrittenIsNotTakenForALock)
+{
+    UserDefaults defaults(u"/sys/leafcast-defaults.json"_s); // not even root can write there
+    const LogCapture log;
+    defaults.synchronize();
+    EXPECT_EQ(log.lines(),
+        QStringList(u"WARN UserDefaults: can't save /sys/leafcast-defaults.json: "
+                    "its folder can't be written"_s));
 }

@@ -2,9 +2,9 @@
 #include "settings/AppSettings.h"
 
 #include "support/LogCapture.h"
+#include "support/TestFiles.h"
 
 #include <gmock/gmock.h>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryDir>
@@ -13,7 +13,6 @@ using namespace Qt::StringLiterals;
 using leafcast::AppSettings;
 using leafcast::UserDefaults;
 using testing::ElementsAre;
-using testing::HasSubstr;
 
 namespace {
 
@@ -21,9 +20,7 @@ class AppSettingsTest : public testing::Test {
 protected:
     QJsonObject savedObject() const
     {
-        QFile file(iFilePath);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return QJsonDocument::fromJson(file.readAll()).object();
+        return QJsonDocument::fromJson(leafcast::readTestFile(iFilePath)).object();
     }
 
     QTemporaryDir iFolder;
@@ -59,6 +56,23 @@ TEST_F(AppSettingsTest, SavesItsTwelveKeysWithNumbersAsNumbers)
     EXPECT_EQ(saved[u"lastImportedFile"], QJsonValue(u"/home/ann/Äpfel.pdf"_s));
     EXPECT_EQ(saved[u"importLinks"], QJsonValue(1));
     EXPECT_EQ(saved[u"PageWidth"], QJsonValue(938));
+}
+
+TEST_F(AppSettingsTest, SavesOverNoChoiceThatAnotherProcessMadeMeanwhile)
+{
+    AppSettings(iDefaults).saveSettings();
+    UserDefaults otherDefaults(iFilePath);
+    AppSettings other(otherDefaults);
+    AppSettings settings(iDefaults);
+    other.setOutputType(1);
+    other.saveSettings();
+
+    settings.setImportLinks(1);
+    settings.saveSettings();
+    settings.saveSettings();
+
+    EXPECT_EQ(savedObject()[u"importLinks"], QJsonValue(1));
+    EXPECT_EQ(savedObject()[u"outputType"], QJsonValue(1));
 }
 
 TEST_F(AppSettingsTest, EveryPropertyComesBackUnderItsOwnKeyButThePageSize)
