@@ -6,6 +6,7 @@
 #include "base/Log.h"
 #include "base/SystemError.h"
 
+#include <cerrno>
 #include <filesystem>
 #include <QDir>
 #include <QFile>

@@ -3,6 +3,7 @@
 
 #include <libxml/parser.h>
 #include <QRegularExpression>
+#include <QStringConverter>
 
 using namespace Qt::StringLiterals;
 
@@ -12,12 +13,25 @@ namespace {
 
     using Context = std::unique_ptr<xmlParserCtxt, decltype(&xmlFreeParserCtxt)>;
 
+    /// UTF-16 or UTF-32 where the text starts so. Else Latin-1, which maps each byte to one
+    /// character and back, so that any ASCII-based encoding survives.
+    QStringConverter::Encoding encodingToTidyIn(const QByteArray& text)
+    {
+        const auto found = QStringConverter::encodingForData(text, u'<');
+        return found && found != QStringConverter::Utf8 ? *found : QStringConverter::Latin1;
+    }
+
     QByteArray withBareAmpersandsEscaped(const QByteArray& text)
     {
+        // What is CDATA, a comment or a processing instruction is skipped: no escapes are read
+        // there.
         static const QRegularExpression bare(
-            u"&(?!(amp|lt|gt|quot|apos|#[0-9]+|#x[0-9A-Fa-f]+);)"_s);
-        // Latin-1 maps each byte to one character and back, so any ASCII-based encoding survives.
-        return QString::fromLatin1(text).replace(bare, u"&amp;"_s).toLatin1();
+            u"(?:<!\\[CDATA\\[.*?\\]\\]>|<!--.*?-->|<\\?.*?\\?>)(*SKIP)(*FAIL)"
+            "|&(?!(?:amp|lt|gt|quot|apos|#[0-9]+|#x[0-9A-Fa-f]+);)"_s,
+            QRegularExpression::DotMatchesEverythingOption);
+        const auto encoding = encodingToTidyIn(text);
+        const QString escaped = QString(QStringDecoder(encoding)(text)).replace(bare, u"&amp;"_s);
+        return QStringEncoder(encoding, QStringConverter::Flag::WriteBom)(escaped);
     }
 
     XMLParser::Error lastError(const Context& context)

@@ -9,7 +9,10 @@ namespace leafcast {
 /// file, and refuses a document that declares entities of its own.
 class XMLParser {
 public:
-    enum class Mode { Strict, Tidying }; // mends mismatched tags and bare ampersands
+    enum class Mode {
+        Strict,
+        Tidying, // mends mismatched tags and bare ampersands
+    };
 
     struct Error {
         QString message;

@@ -3,6 +3,7 @@
 #include "base/XMLParser.h"
 
 #include <gtest/gtest.h>
+#include <QStringConverter>
 
 using namespace Qt::StringLiterals;
 using namespace leafcast;
@@ -63,6 +64,30 @@ TEST(XMLParser, ReportsTheLineOfAnErrorAndTidiesIt)
     ASSERT_TRUE(root);
     EXPECT_TRUE(root->stringValue().contains(u"R&D & A"_s)) << root->toUtf8().toStdString();
     EXPECT_FALSE(root->selectNodes(u"//d"_s).empty());
+}
+
+TEST(XMLParser, TidyingLeavesAmpersandsAloneThatNeedNoEscape)
+{
+    const auto root = XMLParser().parse(
+        "<?edit a&b?><a><!-- R&D\n& --><b><![CDATA[x=1&y=2\n&]]>&</b><!-- & --></a>",
+        XMLParser::Mode::Tidying);
+    ASSERT_TRUE(root);
+    EXPECT_EQ(root->toUtf8(), "<a><!-- R&D\n& --><b><![CDATA[x=1&y=2\n&]]>&amp;</b><!-- & --></a>");
+}
+
+TEST(XMLParser, TidiesWideEncodings)
+{
+    const QString text = u"<?xml version=\"1.0\" encoding=\"UTF-16\"?><a>R&D Größe 測</a>"_s;
+    for (const auto encoding : { QStringConverter::Utf16LE, QStringConverter::Utf16BE }) {
+        const QByteArray bytes = QStringEncoder(encoding, QStringConverter::Flag::WriteBom)(text);
+        const auto root = XMLParser().parse(bytes, XMLParser::Mode::Tidying);
+        ASSERT_TRUE(root);
+        EXPECT_EQ(root->stringValue(), u"R&D Größe 測"_s);
+    }
+    const auto marked
+        = XMLParser().parse("\xEF\xBB\xBF<a>R&D \xC3\xA9</a>", XMLParser::Mode::Tidying);
+    ASSERT_TRUE(marked);
+    EXPECT_EQ(marked->stringValue(), u"R&D é"_s);
 }
 
 TEST(XMLParser, RefusesWhatIsNoXMLAndEntitiesOfItsOwn)
