@@ -3,8 +3,10 @@
 
 #include "base/XMLElement.h"
 
+#include <functional>
 #include <optional>
 #include <QStringList>
+#include <utility>
 
 namespace leafcast {
 
@@ -19,16 +21,31 @@ public:
     const QStringList& needFiles() const { return iNeedFiles; }
     void setNeedFiles(const QStringList& files) { iNeedFiles = files; }
 
-    /// None until it is loaded.
-    virtual std::optional<XMLElement> pagesAnnotationsNode() const { return iPagesAnnotationsNode; }
+    /// None until it is loaded or set. One thread at a time, as for the tree itself.
+    std::optional<XMLElement> pagesAnnotationsNode() const
+    {
+        if (const auto make = std::exchange(iMakeNode, nullptr))
+            iPagesAnnotationsNode = make();
+        return iPagesAnnotationsNode;
+    }
     void setPagesAnnotationsNode(std::optional<XMLElement> root)
     {
+        iMakeNode = nullptr;
         iPagesAnnotationsNode = std::move(root);
+    }
+
+protected:
+    /// Sets a tree that is made when it is first asked for, and then kept.
+    void setPagesAnnotationsNodeMadeBy(std::function<XMLElement()> make)
+    {
+        iPagesAnnotationsNode.reset();
+        iMakeNode = std::move(make);
     }
 
 private:
     QStringList iNeedFiles;
-    std::optional<XMLElement> iPagesAnnotationsNode;
+    mutable std::optional<XMLElement> iPagesAnnotationsNode;
+    mutable std::function<XMLElement()> iMakeNode; // until the tree is asked for
 };
 
 } // namespace leafcast

@@ -65,8 +65,8 @@ void FlashPagesAnnotationsPDF::loadLinksFromPDF(
         = FlashPageSource::parsePageRange(pageRange, iPDFDoc ? iPDFDoc->pageCount() : 0);
     iCurrentIndex = 0;
     needFiles().clear();
-    setPagesAnnotationsNode(std::nullopt);
-    iLoadedPages.emplace();
+    iLoadedPages = std::make_shared<std::vector<PageLinks>>();
+    setPagesAnnotationsNodeMadeBy([pages = iLoadedPages] { return treeOf(*pages); });
     for (; iCurrentIndex < static_cast<qint32>(iNeedToImportPages.size()); ++iCurrentIndex)
         parsePage();
 }
@@ -99,16 +99,13 @@ FlashPagesAnnotationsPDF::PageLinks FlashPagesAnnotationsPDF::linksOf(const PDFP
     return links;
 }
 
-std::optional<XMLElement> FlashPagesAnnotationsPDF::pagesAnnotationsNode() const
+XMLElement FlashPagesAnnotationsPDF::treeOf(const std::vector<PageLinks>& pages)
 {
-    const auto given = FlashPagesAnnotations::pagesAnnotationsNode();
-    if (given || !iLoadedPages)
-        return given;
     XMLElement root(u"pagesAnnos"_s);
-    for (size_t i = 0; i < iLoadedPages->size(); ++i) {
+    for (size_t i = 0; i < pages.size(); ++i) {
         XMLElement pageNode = root.addChild(u"pageAnnos"_s);
         pageNode.addAttribute(u"pageIndex"_s, QString::number(i + 1));
-        for (const Link& link : iLoadedPages->at(i))
+        for (const Link& link : pages[i])
             appendRecord(pageNode, link);
     }
     return root;

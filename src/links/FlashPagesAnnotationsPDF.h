@@ -12,18 +12,15 @@ namespace leafcast {
 
 /// The link records of a PDF's pages. A "pageAnnos" is numbered by its place in the range; the
 /// target of a link to a page is the page's number in the whole PDF, whether or not it is in the
-/// range. The links are kept as values and the tree is made on demand: it takes 3 KiB a link, which
-/// is 100 MiB for a manual of 5,000 pages.
+/// range. The links are kept as values and the tree is made when it is first asked for: it takes 3
+/// KiB a link, which is 100 MiB for a manual of 5,000 pages.
 class FlashPagesAnnotationsPDF : public FlashPagesAnnotations {
 public:
     /// Replaces the tree and empties the list of files. Without a document every page of the range
     /// is a page without links. Throws what PageRange::parse() throws.
     void loadLinksFromPDF(std::shared_ptr<const PDFDocument> document, const QString& pageRange);
 
-    /// One that was set, else that of the load.
-    std::optional<XMLElement> pagesAnnotationsNode() const override;
-
-    /// Appends the "pageAnnos" of the page whose turn it is. Only while a load goes on.
+    /// Adds the links of the page whose turn it is. Only while a load goes on.
     void parsePage();
 
     const std::shared_ptr<const PDFDocument>& pdfDoc() const { return iPDFDoc; }
@@ -38,9 +35,11 @@ private:
     using PageLinks = std::vector<Link>;
 
     PageLinks linksOf(const PDFPage& page) const;
+    static XMLElement treeOf(const std::vector<PageLinks>& pages);
     static void appendRecord(XMLElement& pageNode, const Link& link);
 
-    std::optional<std::vector<PageLinks>> iLoadedPages; // by their place in the range
+    /// By their place in the range. Shared with what makes the tree of them.
+    std::shared_ptr<std::vector<PageLinks>> iLoadedPages;
     std::vector<qint32> iNeedToImportPages;
     std::shared_ptr<const PDFDocument> iPDFDoc;
     qint32 iCurrentIndex = 0;

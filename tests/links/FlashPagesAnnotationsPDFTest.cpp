@@ -102,6 +102,20 @@ TEST_F(FlashPagesAnnotationsPDFTest, LoadingAgainReplacesTheTreeAndEmptiesTheFil
     EXPECT_TRUE(iAnnotations.needFiles().isEmpty());
 }
 
+TEST_F(FlashPagesAnnotationsPDFTest, TheTreeCanBeChangedAndReplacedAfterALoad)
+{
+    (void)treeOf(tenPages(), u"1"_s);
+    iAnnotations.pagesAnnotationsNode()->addAttribute(u"edited"_s, u"1"_s);
+    EXPECT_EQ(iAnnotations.pagesAnnotationsNode()->attribute(u"edited"_s), u"1"_s);
+
+    iAnnotations.setPagesAnnotationsNode(std::nullopt);
+    EXPECT_FALSE(iAnnotations.pagesAnnotationsNode());
+
+    iAnnotations.loadLinksFromPDF(nullptr, u"1"_s);
+    iAnnotations.setPagesAnnotationsNode(XMLElement(u"other"_s));
+    EXPECT_EQ(iAnnotations.pagesAnnotationsNode()->toUtf8(), "<other/>");
+}
+
 TEST_F(FlashPagesAnnotationsPDFTest, LogsPagesCountsAndAnnotations)
 {
     PDFBuilder builder = tenPages();
