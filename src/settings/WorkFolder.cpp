@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "settings/WorkFolder.h"
 
+#include "base/FileDescriptor.h"
 #include "base/Log.h"
+#include "base/SystemError.h"
 
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <optional>
 #include <QFile>
@@ -18,11 +19,6 @@ namespace leafcast::WorkFolder {
 namespace {
 
     constexpr mode_t sharedMode = 01777;
-
-    QString systemError()
-    {
-        return QString::fromLocal8Bit(std::strerror(errno));
-    }
 
     bool isOwnedByUsOrRoot(const struct stat& folder)
     {
@@ -39,14 +35,13 @@ namespace {
     {
         struct stat status { };
         if (::fstat(folder, &status) != 0)
-            return systemError();
+            return systemErrorText();
         if (status.st_uid == ::geteuid() && (status.st_mode & 07777) != sharedMode)
-            return ::fchmod(folder, sharedMode) == 0 ? std::nullopt : std::optional(systemError());
-        if (status.st_mode & S_ISVTX)
-            return std::nullopt;
-        if (!isOwnedByUsOrRoot(status))
+            return ::fchmod(folder, sharedMode) == 0 ? std::nullopt
+                                                     : std::optional(systemErrorText());
+        if (!isOwnedByUsOrRoot(status)) // whom the sticky bit does not bind
             return u"it belongs to another user, who could swap what lies in it"_s;
-        if (isWritableForOthers(status))
+        if (isWritableForOthers(status) && !(status.st_mode & S_ISVTX))
             return u"every user could swap what lies in it"_s;
         return std::nullopt;
     }
@@ -54,15 +49,13 @@ namespace {
     std::optional<QString> problemOfParent(const QByteArray& path)
     {
         if (::mkdir(path.constData(), 0700) != 0 && errno != EEXIST)
-            return systemError();
-        const int folder
-            = ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-        if (folder < 0)
+            return systemErrorText();
+        const FileDescriptor folder(
+            ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+        if (!folder.isOpen())
             return errno == ENOTDIR || errno == ELOOP ? u"it is a link or not a folder"_s
-                                                      : systemError();
-        auto problem = problemOf(folder);
-        ::close(folder);
-        return problem;
+                                                      : systemErrorText();
+        return problemOf(folder.get());
     }
 
     /// None when the system refuses, with errno set.
@@ -82,7 +75,7 @@ QString make(const QString& name)
     if (!problem) {
         if (const auto made = makeUnique(parent + "/temp.XXXXXX"))
             return *made;
-        problem = systemError();
+        problem = systemErrorText();
     }
     LOG_WARN("WorkFolder", u"can't work below %1: %2"_s.arg(QFile::decodeName(parent), *problem));
 
@@ -90,7 +83,7 @@ QString make(const QString& name)
     if (const auto made = makeUnique(besideParent))
         return *made;
     LOG_ERROR("WorkFolder",
-        u"can't make a folder %1: %2"_s.arg(QFile::decodeName(besideParent), systemError()));
+        u"can't make a folder %1: %2"_s.arg(QFile::decodeName(besideParent), systemErrorText()));
     return QFile::decodeName(besideParent);
 }
 

@@ -18,6 +18,8 @@ using testing::HasSubstr;
 
 namespace {
 
+constexpr uid_t stranger = 12345;
+
 /// Each test has a parent of its own in /tmp.
 class WorkFolderTest : public testing::Test {
 protected:
@@ -88,14 +90,23 @@ TEST_F(WorkFolderTest, AParentThatIsAFileIsRefused)
     expectMadeBesideTheParent("it is a link or not a folder");
 }
 
-TEST_F(WorkFolderTest, AStrangersParentIsTakenOnlyWhenItIsSticky)
+TEST_F(WorkFolderTest, AStrangersParentIsRefusedThoughItIsSticky)
 {
-    constexpr uid_t stranger = 12345;
     ::mkdir(qPrintable(iParent), 0777);
     if (::chown(qPrintable(iParent), stranger, stranger) != 0)
         GTEST_SKIP() << "only root can give a folder away";
-    ::chmod(qPrintable(iParent), 0777);
-    expectMadeBesideTheParent("it belongs to another user");
-    ::chmod(qPrintable(iParent), 01777);
-    EXPECT_EQ(QFileInfo(make()).path(), iParent);
+    for (const mode_t shared : { 0777u, 01777u, 0755u }) {
+        ::chmod(qPrintable(iParent), shared);
+        expectMadeBesideTheParent("it belongs to another user");
+    }
+}
+
+TEST_F(WorkFolderTest, RootsParentIsTakenByEveryUserIfItIsSticky)
+{
+    (void)make();
+    if (::seteuid(stranger) != 0)
+        GTEST_SKIP() << "only root can act as another user";
+    const QString folder = make();
+    ::seteuid(0);
+    EXPECT_EQ(QFileInfo(folder).path(), iParent);
 }
