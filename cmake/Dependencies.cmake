@@ -6,7 +6,7 @@ find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui)
 pkg_check_modules(LIBXML2 REQUIRED IMPORTED_TARGET libxml-2.0>=2.9.14)
 pkg_check_modules(LOG4CPLUS REQUIRED IMPORTED_TARGET log4cplus>=2.0.8)
 pkg_check_modules(LCMS2 REQUIRED IMPORTED_TARGET lcms2>=2.14)
-find_package(JPEG 62 REQUIRED)
+include(StaticJPEG)
 find_package(CLI11 2.1 REQUIRED)
 include(MuPDF)
 

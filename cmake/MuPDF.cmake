@@ -6,16 +6,18 @@ find_library(MUPDF_THIRD_LIBRARY mupdf-third REQUIRED)
 
 file(STRINGS ${MUPDF_INCLUDE_DIR}/mupdf/fitz/version.h MUPDF_VERSION_LINE REGEX "#define FZ_VERSION \"")
 string(REGEX REPLACE ".*\"(.*)\".*" "\\1" MUPDF_VERSION "${MUPDF_VERSION_LINE}")
-if(MUPDF_VERSION VERSION_LESS 1.21)
-  message(FATAL_ERROR "MuPDF 1.21 or newer is needed, found ${MUPDF_VERSION}")
+# The page map is filled in the way of this release.
+if(MUPDF_VERSION VERSION_LESS 1.21 OR NOT MUPDF_VERSION VERSION_LESS 1.22)
+  message(FATAL_ERROR "MuPDF 1.21 is needed, found ${MUPDF_VERSION}")
 endif()
 
 set(MUPDF_NEEDS)
-foreach(library mujs gumbo jbig2dec openjp2 harfbuzz freetype jpeg z m)
+foreach(library mujs gumbo jbig2dec openjp2 harfbuzz freetype z m)
   find_library(MUPDF_NEEDS_${library} ${library} REQUIRED)
   list(APPEND MUPDF_NEEDS ${MUPDF_NEEDS_${library}})
 endforeach()
 
 add_library(mupdf INTERFACE)
 target_include_directories(mupdf SYSTEM INTERFACE ${MUPDF_INCLUDE_DIR})
-target_link_libraries(mupdf INTERFACE ${MUPDF_LIBRARY} ${MUPDF_THIRD_LIBRARY} ${MUPDF_NEEDS})
+target_link_libraries(mupdf INTERFACE
+  ${MUPDF_LIBRARY} ${MUPDF_THIRD_LIBRARY} static_jpeg ${MUPDF_NEEDS})
