@@ -19,6 +19,7 @@ def measure_documents(place, corpus, rounds):
         measured = in_rounds(place, document, everyone, rounds)
         rows = [row(document, result) for result in measured]
         report.document(document.title, document.pages, rows)
+        report.imports(rows)
         sizes = sizes_at_like_quality(place, corpus, document, measured)
         report.sizes(sizes)
         shares = library_shares(place, document, measured)
@@ -56,6 +57,7 @@ def row(document, result):
     return {
         "name": result.contender.name,
         "is_peer": result.contender.is_peer,
+        "is_ours": result.contender.quality_level is not None,
         "figures": [document.pages / result.run.seconds, result.run.cpu_seconds,
                     result.run.peak_bytes / targets.MEBIBYTE,
                     mean_kibibytes(result.page_bytes.values())],

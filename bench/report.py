@@ -22,6 +22,16 @@ def document(title, pages, rows):
         print(f"{row['name']:24}{cells}{mark}")
 
 
+def imports(rows):
+    """Our rows: all but the writing of the book, which a peer has no counterpart of."""
+    fastest = max(row["figures"][0] for row in rows if row["is_peer"])
+    for row in rows:
+        if row["is_ours"]:
+            speed = row["import_pages_per_second"]
+            print(f"  {row['name']}: import alone {speed:.1f} pages/s, {speed / fastest:.2f} of the"
+                  " fastest peer")
+
+
 def cell(value, reference):
     if not value:
         return f"{'-':>11}{'':>7}"
