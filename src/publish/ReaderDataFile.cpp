@@ -24,25 +24,31 @@ namespace {
         return readerOutline(book.outline->items(), BookPlaces(book.pageSource.normalPages()));
     }
 
-    void writeContent(QSaveFile& file, const ReaderBook& book)
+    // A QSaveFile commits after a short write or a failed last flush all the same.
+    bool writeContent(QSaveFile& file, const ReaderBook& book)
     {
         ReaderPages pages(book);
         ReaderDataWriter writer(file);
-        while (!pages.atEnd() && !book.pageSource.stop())
+        while (!pages.atEnd() && !book.pageSource.stop() && writer.isWhole())
             writer.addPage(pages.next());
         writer.finish(outlineOf(book));
-        if (!pages.atEnd())
-            file.cancelWriting();
+        return pages.atEnd() && writer.isWhole() && file.flush();
+    }
+
+    QString whyUnwritten(const QSaveFile& file, const ReaderBook& book)
+    {
+        if (book.pageSource.stop())
+            return u"it was stopped"_s;
+        return file.error() == QFileDevice::NoError ? u"it could not be written whole"_s
+                                                    : file.errorString();
     }
 
     bool writeTo(const QString& path, const ReaderBook& book)
     {
         QSaveFile file(path);
-        if (file.open(QIODevice::WriteOnly))
-            writeContent(file, book);
-        if (file.commit())
+        if (file.open(QIODevice::WriteOnly) && writeContent(file, book) && file.commit())
             return true;
-        LOG_WARN("ReaderDataFile", u"can't write %1: %2"_s.arg(path, file.errorString()));
+        LOG_WARN("ReaderDataFile", u"can't write %1: %2"_s.arg(path, whyUnwritten(file, book)));
         return false;
     }
 
@@ -78,11 +84,13 @@ namespace {
 
 } // namespace
 
-void ReaderDataFile::write(const ReaderBook& book) const
+bool ReaderDataFile::write(const ReaderBook& book) const
 {
     FileSteps::makeFolders(QFileInfo(iPath).path());
-    if (!place(book))
+    const bool written = place(book);
+    if (!written)
         remove();
+    return written;
 }
 
 bool ReaderDataFile::place(const ReaderBook& book) const

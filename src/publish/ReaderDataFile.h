@@ -6,8 +6,8 @@
 namespace leafcast {
 
 /// The file "files/search/book.js" of a book. A PDF's text is read once: what was written is kept
-/// beside the page source's pictures, and an output of the same pages copies it. Failures, and the
-/// page source's stop flag, are logged and leave no file.
+/// beside the page source's pictures, and an output of the same pages copies it. Failures are
+/// logged.
 class ReaderDataFile {
 public:
     explicit ReaderDataFile(const QString& path)
@@ -15,7 +15,8 @@ public:
     {
     }
 
-    void write(const ReaderBook& book) const;
+    /// False, with no file left, after a failure or a stop.
+    bool write(const ReaderBook& book) const;
     /// With its folder, when nothing else lies there.
     void remove() const;
 

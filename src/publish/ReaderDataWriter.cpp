@@ -53,20 +53,26 @@ namespace {
 ReaderDataWriter::ReaderDataWriter(QIODevice& device)
     : iDevice(device)
 {
-    iDevice.write("var bookData = {\"version\":1,\"pages\":[");
+    write("var bookData = {\"version\":1,\"pages\":[");
 }
 
 void ReaderDataWriter::addPage(const ReaderPage& page)
 {
     if (iHasPages)
-        iDevice.write(",");
+        write(",");
     iHasPages = true;
-    iDevice.write(pageText(page));
+    write(pageText(page));
 }
 
 void ReaderDataWriter::finish(const std::vector<ReaderOutlineItem>& outline)
 {
-    iDevice.write("],\"outline\":" + outlineText(outline) + "};\n");
+    write("],\"outline\":" + outlineText(outline) + "};\n");
+}
+
+void ReaderDataWriter::write(const QByteArray& bytes)
+{
+    if (iDevice.write(bytes) != bytes.size())
+        iIsWhole = false;
 }
 
 QByteArray ReaderDataWriter::outlineText(const std::vector<ReaderOutlineItem>& outline)

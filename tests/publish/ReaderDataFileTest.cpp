@@ -2,6 +2,7 @@
 #include "publish/ReaderDataFile.h"
 
 #include "publish/BookFixture.h"
+#include "support/FileSizeLimit.h"
 #include "support/LogCapture.h"
 
 #include <gmock/gmock.h>
@@ -60,6 +61,23 @@ TEST_F(ReaderDataFileTest, LeavesWhatElseLiesInItsFolder)
     resources.addFile(u"book/files/search/mine.txt"_s, "mine");
     EXPECT_FALSE(isWrittenFor(""));
     EXPECT_EQ(bookFile(u"files/search/mine.txt"_s), "mine");
+}
+
+TEST_F(ReaderDataFileTest, IsGoneWhenTheDiskIsFullWhateverWasWritten)
+{
+    for (const int pageCount : { 1, 1000 }) {
+        while (int(pageSource->normalPages().size()) < pageCount)
+            pageSource->normalPages().push_back(std::make_shared<FlashPage>(u"/p/1.jpg"_s, 1));
+        const QString path = inBook(u"files/search/book.js"_s);
+        const ReaderBook book{ *pageSource, false, nullptr, [](const auto&) { return u"p"_s; }, 0 };
+        ASSERT_TRUE(ReaderDataFile(path).write(book));
+
+        const LogCapture log;
+        const FileSizeLimit limit(60);
+        EXPECT_FALSE(ReaderDataFile(path).write(book)) << pageCount;
+        EXPECT_FALSE(QFileInfo::exists(path)) << pageCount;
+        EXPECT_EQ(log.lines().size(), 1);
+    }
 }
 
 TEST_F(ReaderDataFileTest, MapsTheOutlineToPlacesInTheBook)

@@ -34,6 +34,15 @@ std::vector<ReaderOutlineItem> sampleOutline()
         { u"No target"_s, 0, 0, {} } };
 }
 
+class ShortDevice : public QIODevice {
+public:
+    ShortDevice() { open(QIODevice::WriteOnly | QIODevice::Unbuffered); }
+
+protected:
+    qint64 readData(char*, qint64) override { return -1; }
+    qint64 writeData(const char*, qint64 size) override { return std::min<qint64>(size, 100); }
+};
+
 } // namespace
 
 // The player's tests read the same file.
@@ -57,4 +66,15 @@ TEST(ReaderDataWriter, WritesAnEmptyBook)
     buffer.open(QIODevice::WriteOnly);
     ReaderDataWriter(buffer).finish({});
     EXPECT_EQ(buffer.data(), "var bookData = {\"version\":1,\"pages\":[],\"outline\":[]};\n");
+}
+
+TEST(ReaderDataWriter, NoticesADeviceThatTakesLessThanItIsGiven)
+{
+    ShortDevice device;
+    ReaderDataWriter writer(device);
+    EXPECT_TRUE(writer.isWhole());
+    writer.addPage(samplePages().front());
+    EXPECT_FALSE(writer.isWhole());
+    writer.finish({});
+    EXPECT_FALSE(writer.isWhole());
 }
