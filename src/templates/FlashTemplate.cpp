@@ -92,11 +92,14 @@ void FlashTemplate::loadInfo(const XMLElement& root)
 void FlashTemplate::loadProperties(const XMLElement& root)
 {
     const XMLElement list = mandatoryChild(root, u"properties"_s);
+    // Only a whole list replaces the empty one: a malformed property throws.
+    FlashTemplateProperties properties;
     for (const XMLElement& element : list.children(u"property"_s)) {
         auto property = std::make_shared<FlashTemplateProperty>();
         property->loadFromNode(element);
-        iProperties.push_back(std::move(property));
+        properties.push_back(std::move(property));
     }
+    iProperties = std::move(properties);
 }
 
 TemplateLoadOutcome FlashTemplate::changeTmplTo(const QString& tmplName, const QString& stylePath)

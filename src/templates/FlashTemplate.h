@@ -45,9 +45,9 @@ public:
     static QStringList availableTemplates();
     static QStringList availableStyles(const QString& tmplName);
 
-    /// Replaces the tree by that of the named template. A description that can't be read leaves an
-    /// empty tree under the new name, and a log record; one that lacks what it must have throws
-    /// MalformedTemplate.
+    /// Replaces the tree by that of the named template. A failed load leaves an empty tree under
+    /// the new name: with a log record when the description can't be read; by throwing
+    /// MalformedTemplate when it lacks what it must have.
     TemplateLoadOutcome loadTemplate(const QString& tmplName);
     /// Loads and applies the style, keeping the page size and the language.
     TemplateLoadOutcome changeTmplTo(const QString& tmplName, const QString& stylePath);

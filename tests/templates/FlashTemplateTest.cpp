@@ -130,6 +130,16 @@ TEST_F(FlashTemplateTest, ThrowsForADescriptionThatLacksAMandatoryElement)
     }
 }
 
+TEST_F(FlashTemplateTest, HasAnEmptyTreeUnderTheNewNameAfterAMalformedProperty)
+{
+    resources.addTemplate(
+        u"bad"_s, property("pt_text", "whole", "") + "<property><key>half</key></property>");
+    FlashTemplate flashTemplate;
+    EXPECT_THROW(flashTemplate.loadTemplate(u"bad"_s), MalformedTemplate);
+    EXPECT_TRUE(flashTemplate.properties().empty());
+    EXPECT_EQ(flashTemplate.tmplName(), u"bad");
+}
+
 TEST_F(FlashTemplateTest, OpensATemplateByNameOrSaysWhyNot)
 {
     using Failure = TemplateLoadOutcome::Failure;
