@@ -60,7 +60,10 @@ TEST_F(FlashBookOutputTest, GeneratesThePageUnderTheGivenName)
 TEST_F(FlashBookOutputTest, ReplacesWhatAnEarlierOutputLeftExceptPagesAndServer)
 {
     for (const auto* stale : { u"javascript/old.js", u"style/old.css",
-             u"files/extfile/LogoFile.bmp", u"files/extfile/SoundFile.mp3",
+             u"files/extfile/ImgFileURL.jpg", u"files/extfile/ImgFileURL.png",
+             u"files/extfile/ImgFileURL.gif", u"files/extfile/LogoFile.jpg",
+             u"files/extfile/LogoFile.png", u"files/extfile/LogoFile.bmp",
+             u"files/extfile/LogoFile.gif", u"files/extfile/SoundFile.mp3",
              u"files/extfile/ImgFileURL.bmp", u"files/page/9.jpg", u"iPadPreview", u"index.html" })
         resources.addFile(u"book/"_s + QString::fromUtf16(stale), "old");
     addPicture({ 30, 40 });
