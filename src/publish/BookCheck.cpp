@@ -3,8 +3,10 @@
 
 #include "publish/FlashBookOutput.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 using namespace Qt::StringLiterals;
 
@@ -15,7 +17,7 @@ namespace {
     bool hasContent(const QString& path)
     {
         const QFileInfo info(path);
-        return info.isFile() && info.size() > 0;
+        return info.isDir() ? !QDir(path).isEmpty() : info.isFile() && info.size() > 0;
     }
 
     void collectSettingsFiles(
@@ -32,22 +34,48 @@ namespace {
 
     QStringList filesBesidePages(const FlashBookOutput& book)
     {
-        QStringList files = { book.outputHTMLFileName(), book.mainScriptFileName() };
+        QStringList files = { book.outputHTMLFileName(), book.libraryFileName(),
+            book.mainScriptFileName(), book.styleFolderName() };
         if (book.wantsReaderData())
             files.append(book.readerDataFileName());
         collectSettingsFiles(book, book.flashTemplate()->properties(), files);
+        for (const auto& companion : book.companions())
+            if (!companion.source.isEmpty())
+                files.append(companion.copy);
         return files;
+    }
+
+    QStringList absences(const FlashBookOutput& book)
+    {
+        QStringList clauses;
+        for (const auto& companion : book.companions())
+            if (companion.source.isEmpty() && !hasContent(companion.copy))
+                clauses.append(companion.absence);
+        return clauses;
     }
 
 } // namespace
 
 BookCheck::BookCheck(const FlashBookOutput& book)
+    : notShipped(absences(book))
 {
-    for (const auto& page : book.flashPageSource()->normalPages())
-        if (page && !hasContent(book.pageFileName(*page)))
+    const QStringList& failures = book.failedFiles();
+    const QSet<QString> failed(failures.begin(), failures.end());
+    const auto isWritten
+        = [&failed](const QString& path) { return !failed.contains(path) && hasContent(path); };
+
+    QSet<QString> pictures;
+    for (const auto& page : book.flashPageSource()->normalPages()) {
+        if (!page)
+            continue;
+        pictures.insert(book.pageFileName(*page));
+        if (!isWritten(book.pageFileName(*page)))
             pagesWithoutPicture.push_back(page->pageIndex());
-    missingFiles = filesBesidePages(book);
-    missingFiles.removeIf(hasContent);
+    }
+    missingFiles = filesBesidePages(book) + failures;
+    missingFiles.removeDuplicates();
+    missingFiles.removeIf(
+        [&](const QString& path) { return pictures.contains(path) || isWritten(path); });
 }
 
 bool isBookFolder(const QString& path)

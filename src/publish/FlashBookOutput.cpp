@@ -57,39 +57,44 @@ void FlashBookOutput::ouputTheBook()
     outputReaderData();
 }
 
-void FlashBookOutput::outputHTMLPage() const
+void FlashBookOutput::keepResult(bool succeeded, const QString& path)
 {
-    const QString templateFile = iFlashTemplate->tmplHTMLFilePath();
-    if (iHTMLConfig)
-        iHTMLConfig->generateHTMLFrom(templateFile, outputHTMLFileName());
-    else
-        FileSteps::replaceFile(templateFile, outputHTMLFileName());
+    if (!succeeded)
+        iFailedFiles.append(path);
 }
 
-void FlashBookOutput::outputPlayer() const
+void FlashBookOutput::outputHTMLPage()
+{
+    const QString templateFile = iFlashTemplate->tmplHTMLFilePath();
+    const QString page = outputHTMLFileName();
+    keepResult(iHTMLConfig ? iHTMLConfig->generateHTMLFrom(templateFile, page)
+                           : FileSteps::replaceFile(templateFile, page),
+        page);
+}
+
+void FlashBookOutput::outputPlayer()
 {
     const QString scripts = inBook(u"javascript"_s);
     FileSteps::remove(scripts);
     FileSteps::makeFolder(scripts);
-    iFlashTemplate->copyBookJSFile(scripts + u"/jquery-1.7.2.min.js"_s);
-    iFlashTemplate->copyStyleDirToDir(inBook(u"style"_s));
+    keepResult(iFlashTemplate->copyBookJSFile(libraryFileName()), libraryFileName());
+    keepResult(iFlashTemplate->copyStyleDirToDir(styleFolderName()), styleFolderName());
     copyServer();
 }
 
-void FlashBookOutput::copyServer() const
+void FlashBookOutput::copyServer()
 {
     const QString source = GetServerPath();
-    const QString copy = inBook(u"iPadPreview"_s);
     // Deliberate: a server from an earlier output stays.
-    if (FileSteps::exists(copy))
+    if (FileSteps::exists(serverFileName()))
         return;
     if (source.isEmpty())
         LOG_WARN("FlashBookOutput", u"there is no preview server to copy"_s);
     else
-        FileSteps::copyFile(source, copy);
+        keepResult(FileSteps::copyFile(source, serverFileName()), serverFileName());
 }
 
-void FlashBookOutput::outputReaderData() const
+void FlashBookOutput::outputReaderData()
 {
     const ReaderDataFile file(readerDataFileName());
     if (!wantsReaderData()) {
@@ -98,8 +103,14 @@ void FlashBookOutput::outputReaderData() const
     }
     const auto imageURL
         = [this](const FlashPage& page) { return joined(iResourceFolder, getNormalPageURL(page)); };
-    file.write({ *iFlashPageSource, iFlashPagesAnnotations != nullptr, iFlashOutline.get(),
-        imageURL, iWorkerCount });
+    const ReaderBook book{ *iFlashPageSource, iFlashPagesAnnotations != nullptr,
+        iFlashOutline.get(), imageURL, iWorkerCount };
+    keepResult(file.write(book), readerDataFileName());
+}
+
+std::vector<FlashBookOutput::Companion> FlashBookOutput::companions() const
+{
+    return { { GetServerPath(), serverFileName(), u"the preview server is not installed"_s } };
 }
 
 bool FlashBookOutput::wantsReaderData() const
@@ -126,6 +137,21 @@ QString FlashBookOutput::mainScriptFileName() const
 QString FlashBookOutput::readerDataFileName() const
 {
     return inResources(iSaveToFolder, iSearchInfoFolder + u"/book.js"_s);
+}
+
+QString FlashBookOutput::libraryFileName() const
+{
+    return inBook(u"javascript/jquery-1.7.2.min.js"_s);
+}
+
+QString FlashBookOutput::styleFolderName() const
+{
+    return inBook(u"style"_s);
+}
+
+QString FlashBookOutput::serverFileName() const
+{
+    return inBook(u"iPadPreview"_s);
 }
 
 QString FlashBookOutput::pageFileName(const FlashPage& page) const

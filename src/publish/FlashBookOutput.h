@@ -8,13 +8,14 @@
 #include "templates/FlashTemplate.h"
 
 #include <memory>
-#include <QString>
+#include <QStringList>
+#include <vector>
 
 namespace leafcast {
 
 /// Writes one book into a folder: pictures, player, script and page. Made for one output, used
 /// once. Every step is done as well as it can be: a failure leaves a log line and the next step
-/// runs; BookCheck tells afterwards what is missing. One thread.
+/// runs; BookCheck tells afterwards what the book lacks. One thread.
 class FlashBookOutput {
 public:
     using PageSource = std::shared_ptr<FlashPageSource>;
@@ -37,6 +38,8 @@ public:
     QString outputSWFName() const; // a name only, nothing writes it
     QString mainScriptFileName() const;
     QString readerDataFileName() const;
+    QString libraryFileName() const;
+    QString styleFolderName() const;
     /// Whether the template declares the switch "readerData" and has it on.
     bool wantsReaderData() const;
     /// Where the book has a page's picture, and the file that a pt_file property names.
@@ -52,18 +55,30 @@ public:
 
     // The steps. An empty folder means the book's own.
     void removeExtFile(const QString& folder) const;
-    void prepaireNomalPage(const QString& folder) const;
-    void prepaireZoomendPage(const QString& folder) const;
+    void prepaireNomalPage(const QString& folder);
+    void prepaireZoomendPage(const QString& folder);
     void prepaireThumbPage(const QString& folder) const;
-    void prepaireExtFiles(const QString& folder) const;
-    void prepaireExtFiles(const QString& folder, const FlashTemplateProperty& atChildPro) const;
-    void PrepareAnnotationFiles(const QString& folder) const;
+    void prepaireExtFiles(const QString& folder);
+    void prepaireExtFiles(const QString& folder, const FlashTemplateProperty& atChildPro);
+    void PrepareAnnotationFiles(const QString& folder);
 
     /// Writes the book configuration script and stores the book's page size in AppSettings. Without
     /// the template's script nothing is written.
-    void ouputBookXML(const QString& path) const { bookXML(path); }
-    void bookXML(const QString& path) const;
+    void ouputBookXML(const QString& path) { bookXML(path); }
+    void bookXML(const QString& path);
     static quint32 colorWithHexString(const QString& text);
+
+    /// Full paths of the files and folders that could not be written, or not whole; that of an
+    /// earlier output may still lie there.
+    const QStringList& failedFiles() const { return iFailedFiles; }
+
+    /// A program that travels in the book when it is installed.
+    struct Companion {
+        QString source; // empty when it is not installed
+        QString copy;
+        QString absence; // a clause for people
+    };
+    virtual std::vector<Companion> companions() const;
 
     const Template& flashTemplate() const { return iFlashTemplate; }
     void setFlashTemplate(Template flashTemplate) { iFlashTemplate = std::move(flashTemplate); }
@@ -93,16 +108,21 @@ public:
     /// Processes that read a PDF's text; 0 is one a processor core.
     void setWorkerCount(int count) { iWorkerCount = count; }
 
+protected:
+    /// Remembers the path as failed unless its step succeeded.
+    void keepResult(bool succeeded, const QString& path);
+
 private:
-    void outputHTMLPage() const;
-    void outputPlayer() const;
-    void copyServer() const;
-    void outputReaderData() const;
+    void outputHTMLPage();
+    void outputPlayer();
+    void copyServer();
+    void outputReaderData();
     QString configurationText() const;
     void storePageSize() const;
-    void copyExtFile(const QString& folder, const FlashTemplateProperty& property) const;
+    void copyExtFile(const QString& folder, const FlashTemplateProperty& property);
     QString extFileURL(const FlashTemplateProperty& property) const;
     QString baseOf(const QString& folder) const;
+    QString serverFileName() const;
     QString inBook(const QString& relativePath) const;
     QString inResources(const QString& base, const QString& relativePath) const;
 
@@ -122,6 +142,7 @@ private:
     QString iAnnotationFilesFolder = QStringLiteral("pageConfig");
     bool iZoomedPageSameAsNormalPage = true;
     int iWorkerCount = 0;
+    QStringList iFailedFiles;
 };
 
 } // namespace leafcast

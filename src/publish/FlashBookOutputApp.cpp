@@ -18,6 +18,14 @@ namespace {
         return QFileInfo(name).completeBaseName() + u".app"_s;
     }
 
+    constexpr auto viewerContents = "AppFiles/TmplData/mac.app/Contents"_L1;
+
+    /// Its description; the empty string when no viewer is installed.
+    QString viewerDescription()
+    {
+        return ResourceFolder::pathForResource(u"Info"_s, u"plist"_s, viewerContents);
+    }
+
     QString folderAbove(const QString& path)
     {
         return QFileInfo(path).path();
@@ -42,11 +50,26 @@ void FlashBookOutputApp::ouputTheBook()
     FlashBookOutput::ouputTheBook();
 }
 
-void FlashBookOutputApp::copyViewer() const
+void FlashBookOutputApp::copyViewer()
 {
-    const QString viewer = ResourceFolder::path() + u"/AppFiles/TmplData/mac.app/Contents"_s;
-    if (!FileSteps::copyFolder(viewer, folderAbove(saveToFolder())))
+    const QString viewer = ResourceFolder::path() + u'/' + viewerContents;
+    const bool copied = FileSteps::copyFolder(viewer, contentsFolder());
+    if (!copied)
         LOG_ERROR("FlashBookOutputApp", u"ouput the book,copy failed:%1"_s.arg(viewer));
+    keepResult(copied || viewerDescription().isEmpty(), contentsFolder());
+}
+
+std::vector<FlashBookOutput::Companion> FlashBookOutputApp::companions() const
+{
+    auto all = FlashBookOutput::companions();
+    all.push_back({ viewerDescription(), contentsFolder() + u"/Info.plist"_s,
+        u"the viewer of packages is not installed, so the package does not open by a double click"_s });
+    return all;
+}
+
+QString FlashBookOutputApp::contentsFolder() const
+{
+    return folderAbove(saveToFolder());
 }
 
 QString FlashBookOutputApp::outputHTMLFileName() const

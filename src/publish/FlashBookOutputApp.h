@@ -18,9 +18,11 @@ public:
     QString outputHTMLFileName() const override;
     /// Path of the package.
     QString outputFileName() const override;
+    std::vector<Companion> companions() const override;
 
 private:
-    void copyViewer() const;
+    void copyViewer();
+    QString contentsFolder() const;
 };
 
 } // namespace leafcast

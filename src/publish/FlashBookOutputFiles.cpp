@@ -24,32 +24,36 @@ void FlashBookOutput::removeExtFile(const QString& folder) const
         FileSteps::remove(extFiles + u'/' + name);
 }
 
-void FlashBookOutput::prepaireNomalPage(const QString& folder) const
+void FlashBookOutput::prepaireNomalPage(const QString& folder)
 {
     const QString base = folder.isEmpty() ? iSaveToFolder : folder;
     FileSteps::makeFolders(inResources(base, iNormalPageFolder));
-    for (const auto& page : iFlashPageSource->normalPages())
-        if (page)
-            FileSteps::replaceFile(
-                page->pageFilePath(), inResources(base, getNormalPageURL(*page)));
+    for (const auto& page : iFlashPageSource->normalPages()) {
+        if (!page)
+            continue;
+        const QString copy = inResources(base, getNormalPageURL(*page));
+        keepResult(FileSteps::replaceFile(page->pageFilePath(), copy), copy);
+    }
 }
 
-void FlashBookOutput::prepaireZoomendPage(const QString& folder) const
+void FlashBookOutput::prepaireZoomendPage(const QString& folder)
 {
     if (iZoomedPageSameAsNormalPage)
         return;
     const QString base = folder.isEmpty() ? iSaveToFolder : folder;
-    for (const auto& page : iFlashPageSource->zoomedPages())
-        if (page)
-            FileSteps::copyFile(page->pageFilePath(),
-                inResources(base,
-                    u"%1/%2.swf"_s.arg(iZoomedPageFolder, QString::number(page->pageIndex()))));
+    for (const auto& page : iFlashPageSource->zoomedPages()) {
+        if (!page)
+            continue;
+        const QString copy = inResources(
+            base, u"%1/%2.swf"_s.arg(iZoomedPageFolder, QString::number(page->pageIndex())));
+        keepResult(FileSteps::copyFile(page->pageFilePath(), copy), copy);
+    }
 }
 
 // Thumbnails are not published: the player shows the pages themselves.
 void FlashBookOutput::prepaireThumbPage(const QString&) const { }
 
-void FlashBookOutput::prepaireExtFiles(const QString& folder) const
+void FlashBookOutput::prepaireExtFiles(const QString& folder)
 {
     FileSteps::makeFolders(inResources(baseOf(folder), iExterFilesFolder));
     for (const auto& property : iFlashTemplate->properties()) {
@@ -64,7 +68,7 @@ void FlashBookOutput::prepaireExtFiles(const QString& folder) const
 }
 
 void FlashBookOutput::prepaireExtFiles(
-    const QString& folder, const FlashTemplateProperty& atChildPro) const
+    const QString& folder, const FlashTemplateProperty& atChildPro)
 {
     for (const auto& child : atChildPro.childProperties()) {
         if (!child)
@@ -74,15 +78,15 @@ void FlashBookOutput::prepaireExtFiles(
     }
 }
 
-void FlashBookOutput::copyExtFile(
-    const QString& folder, const FlashTemplateProperty& property) const
+void FlashBookOutput::copyExtFile(const QString& folder, const FlashTemplateProperty& property)
 {
     if (property.propertyType() != pt_file || property.value().isEmpty())
         return;
-    FileSteps::replaceFile(property.value(), inResources(baseOf(folder), extFileURL(property)));
+    const QString copy = inResources(baseOf(folder), extFileURL(property));
+    keepResult(FileSteps::replaceFile(property.value(), copy), copy);
 }
 
-void FlashBookOutput::PrepareAnnotationFiles(const QString& folder) const
+void FlashBookOutput::PrepareAnnotationFiles(const QString& folder)
 {
     if (!iFlashPagesAnnotations)
         return;
@@ -92,7 +96,7 @@ void FlashBookOutput::PrepareAnnotationFiles(const QString& folder) const
         const QString copy = target + u'/' + QFileInfo(file).fileName();
         // Deliberate: an older file of that name stays.
         if (QFileInfo::exists(file) && !FileSteps::exists(copy))
-            FileSteps::copyFile(file, copy);
+            keepResult(FileSteps::copyFile(file, copy), copy);
     }
 }
 

@@ -48,14 +48,12 @@ namespace {
 
 } // namespace
 
-void FlashBookOutput::bookXML(const QString& path) const
+void FlashBookOutput::bookXML(const QString& path)
 {
     storePageSize();
     const auto head = templateScript(iFlashTemplate->GetTheMainJSPath());
-    if (!head)
-        return;
-    // A failure is logged there and leaves the older script.
-    static_cast<void>(FileSteps::writeAtomically(path, *head + configurationText().toUtf8()));
+    keepResult(
+        head && FileSteps::writeAtomically(path, *head + configurationText().toUtf8()), path);
 }
 
 QString FlashBookOutput::configurationText() const

@@ -23,14 +23,13 @@ namespace {
 
 } // namespace
 
-void HTMLConfigInfo::generateHTMLFrom(const QString& templateFile, const QString& outputFile) const
+bool HTMLConfigInfo::generateHTMLFrom(const QString& templateFile, const QString& outputFile) const
 {
     TextTemplate page(textOf(templateFile));
     page.setItem(u"index.title"_s, iHTMLTitle);
     page.setItem(u"meta.keywords"_s, iHTMLKeywords);
     page.setItem(u"meta.description"_s, iHTMLDescription);
-    // A failure is logged there and leaves the older page.
-    static_cast<void>(FileSteps::writeAtomically(outputFile, page.parse().toUtf8()));
+    return FileSteps::writeAtomically(outputFile, page.parse().toUtf8());
 }
 
 } // namespace leafcast

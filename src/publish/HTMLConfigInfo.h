@@ -22,8 +22,9 @@ public:
     void setOtherScript(const QString& script) { iOtherScript = script; }
 
     /// Fills the page's placeholders "index.title", "meta.keywords" and "meta.description" and
-    /// writes it as UTF-8, atomically. A page that can't be read gives an empty one.
-    void generateHTMLFrom(const QString& templateFile, const QString& outputFile) const;
+    /// writes it as UTF-8, atomically. A page that can't be read gives an empty one. False, with an
+    /// older file left as it was, when it can't be written.
+    bool generateHTMLFrom(const QString& templateFile, const QString& outputFile) const;
 
 private:
     QString iHTMLTitle = QStringLiteral("Pageflip");

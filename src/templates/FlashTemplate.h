@@ -77,12 +77,13 @@ public:
     void exportPropertiesSettingsToArray1(
         QStringList& entries, const FlashTemplateProperty* property) const;
 
-    // Files for a book. Each copy first removes what lies at the destination; failures are logged.
-    void copyBookSWFToFile(const QString& path) const;
-    void copyBookJSFile(const QString& path) const;
-    void copyElseSWFToFile(const QString& path) const;
-    void copyJavaScriptDirToDir(const QString& folder) const;
-    void copyStyleDirToDir(const QString& folder) const;
+    // Files for a book. Each copy first removes what lies at the destination; failures are logged,
+    // and false tells those who ask.
+    bool copyBookSWFToFile(const QString& path) const;
+    bool copyBookJSFile(const QString& path) const;
+    bool copyElseSWFToFile(const QString& path) const;
+    bool copyJavaScriptDirToDir(const QString& folder) const;
+    bool copyStyleDirToDir(const QString& folder) const;
     /// Copies two pictures into the folder and leaves those that are there already.
     void copyExtfileToDir(const QString& folder) const;
     /// Does nothing: the page is rendered from tmplHTMLFilePath.

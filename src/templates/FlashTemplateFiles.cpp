@@ -11,16 +11,16 @@ namespace leafcast {
 
 namespace {
 
-    void copyFileOver(const QString& source, const QString& destination)
+    bool copyFileOver(const QString& source, const QString& destination)
     {
         FileSteps::remove(destination);
-        FileSteps::copyFile(source, destination);
+        return FileSteps::copyFile(source, destination);
     }
 
-    void copyFolderOver(const QString& source, const QString& destination)
+    bool copyFolderOver(const QString& source, const QString& destination)
     {
         FileSteps::remove(destination);
-        FileSteps::copyFolder(source, destination);
+        return FileSteps::copyFolder(source, destination);
     }
 
 } // namespace
@@ -30,29 +30,29 @@ QString FlashTemplate::fileOfTemplate(const QString& relativePath) const
     return tmplPathForName(iTmplName) + relativePath;
 }
 
-void FlashTemplate::copyBookSWFToFile(const QString& path) const
+bool FlashTemplate::copyBookSWFToFile(const QString& path) const
 {
-    copyFileOver(fileOfTemplate(u"book.swf"_s), path);
+    return copyFileOver(fileOfTemplate(u"book.swf"_s), path);
 }
 
-void FlashTemplate::copyBookJSFile(const QString& path) const
+bool FlashTemplate::copyBookJSFile(const QString& path) const
 {
-    copyFileOver(fileOfTemplate(u"javascript/jquery-1.7.2.min.js"_s), path);
+    return copyFileOver(fileOfTemplate(u"javascript/jquery-1.7.2.min.js"_s), path);
 }
 
-void FlashTemplate::copyElseSWFToFile(const QString& path) const
+bool FlashTemplate::copyElseSWFToFile(const QString& path) const
 {
-    copyFileOver(fileOfTemplate(u"playerProductInstall.swf"_s), path);
+    return copyFileOver(fileOfTemplate(u"playerProductInstall.swf"_s), path);
 }
 
-void FlashTemplate::copyJavaScriptDirToDir(const QString& folder) const
+bool FlashTemplate::copyJavaScriptDirToDir(const QString& folder) const
 {
-    copyFolderOver(fileOfTemplate(u"javascript"_s), folder);
+    return copyFolderOver(fileOfTemplate(u"javascript"_s), folder);
 }
 
-void FlashTemplate::copyStyleDirToDir(const QString& folder) const
+bool FlashTemplate::copyStyleDirToDir(const QString& folder) const
 {
-    copyFolderOver(fileOfTemplate(u"style"_s), folder);
+    return copyFolderOver(fileOfTemplate(u"style"_s), folder);
 }
 
 void FlashTemplate::copyExtfileToDir(const QString& folder) const
