@@ -52,10 +52,11 @@ void FlashBookOutputApp::ouputTheBook()
 
 void FlashBookOutputApp::copyViewer()
 {
+    QString reason;
     const QString viewer = ResourceFolder::path() + u'/' + viewerContents;
-    const bool copied = FileSteps::copyFolder(viewer, contentsFolder());
+    const bool copied = FileSteps::copyFolder(viewer, contentsFolder(), &reason);
     if (!copied)
-        LOG_ERROR("FlashBookOutputApp", u"ouput the book,copy failed:%1"_s.arg(viewer));
+        LOG_ERROR("FlashBookOutputApp", u"ouput the book,copy failed:%1"_s.arg(reason));
     keepResult(copied || viewerDescription().isEmpty(), contentsFolder());
 }
 
