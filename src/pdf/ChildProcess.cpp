@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "pdf/ChildProcess.h"
 
+#include "base/SystemError.h"
+
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <cstring>
 #include <fcntl.h>
 #include <QFile>
 #include <spawn.h>
@@ -31,6 +32,7 @@ namespace {
             sigaddset(&signals, SIGPIPE);
             sigaddset(&signals, SIGINT);
             sigaddset(&signals, SIGTERM);
+            sigaddset(&signals, SIGCHLD);
             posix_spawnattr_setsigdefault(&iAttributes, &signals);
             posix_spawnattr_setpgroup(&iAttributes, 0);
             posix_spawnattr_setflags(&iAttributes,
@@ -65,9 +67,22 @@ namespace {
         posix_spawn_file_actions_t iActions{};
     };
 
-    QString errorText(int number)
+    /// Who started us may have made us ignore SIGCHLD, and with it how our children end: the system
+    /// would drop them at once, and give their number away.
+    void keepEndedChildren()
     {
-        return QString::fromLocal8Bit(std::strerror(number));
+        struct sigaction action { };
+        if (sigaction(SIGCHLD, nullptr, &action) == 0
+            && (action.sa_handler == SIG_IGN || (action.sa_flags & SA_NOCLDWAIT)))
+            std::signal(SIGCHLD, SIG_DFL);
+    }
+
+    ChildProcess::Ending endingOf(int status)
+    {
+        using How = ChildProcess::Ending::How;
+        if (WIFSIGNALED(status))
+            return { .how = How::Signal, .code = WTERMSIG(status) };
+        return { .how = How::ExitStatus, .code = WEXITSTATUS(status) };
     }
 
 } // namespace
@@ -85,7 +100,7 @@ FileDescriptor ChildProcess::start(const QString& program, const QStringList& ar
     // A full pipe must not hold up the child: what it can't write there at once is lost.
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, sockets.data()) != 0
         || pipe2(errors.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
-        iError = errorText(errno);
+        iError = systemErrorText();
         FileDescriptor(sockets[0]).close();
         FileDescriptor(sockets[1]).close();
         return {};
@@ -116,10 +131,11 @@ bool ChildProcess::spawn(
         iError = u"it was stopped"_s;
         return false;
     }
+    keepEndedChildren();
     pid_t pid = 0;
     const int failure
         = posix_spawn(&pid, argv[0], streams.get(), attributes.get(), argv.data(), environ);
-    iError = failure == 0 ? QString() : errorText(failure);
+    iError = failure == 0 ? QString() : systemErrorText(failure);
     iPid = failure == 0 ? pid : 0;
     return failure == 0;
 }
@@ -129,14 +145,24 @@ ChildProcess::Ending ChildProcess::end()
     const std::lock_guard lock(iMutex);
     if (iPid == 0)
         return {};
-    kill(-iPid, SIGKILL); // no effect on the status of one that is ending by itself
+    kill(); // no effect on the status of one that is ending by itself
     int status = 0;
-    while (waitpid(iPid, &status, 0) < 0 && errno == EINTR)
-        ;
+    pid_t waitedFor = 0;
+    do
+        waitedFor = waitpid(iPid, &status, 0);
+    while (waitedFor < 0 && errno == EINTR);
     iPid = 0;
-    return { .bySignal = WIFSIGNALED(status),
-        .code = WIFSIGNALED(status) ? WTERMSIG(status) : WEXITSTATUS(status),
-        .lastWords = lastWords() };
+    Ending ending = waitedFor > 0 ? endingOf(status) : Ending();
+    ending.lastWords = lastWords();
+    return ending;
+}
+
+void ChildProcess::kill() const
+{
+    // One that was waited for by other code has lost its number, perhaps to a stranger.
+    siginfo_t state{};
+    if (waitid(P_PID, static_cast<id_t>(iPid), &state, WEXITED | WNOHANG | WNOWAIT) == 0)
+        ::kill(-iPid, SIGKILL);
 }
 
 void ChildProcess::stop()
@@ -144,7 +170,7 @@ void ChildProcess::stop()
     const std::lock_guard lock(iMutex);
     iStopped = true;
     if (iPid != 0)
-        kill(-iPid, SIGKILL);
+        kill();
 }
 
 bool ChildProcess::isStopped() const

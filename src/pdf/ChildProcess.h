@@ -16,9 +16,14 @@ namespace leafcast {
 class ChildProcess {
 public:
     struct Ending {
-        bool bySignal = false;
-        int code = 0; // signal, or exit status
-        QString lastWords; // first line of its standard error
+        enum class How {
+            Unknown, // none was started, or other code of this program waited for it
+            ExitStatus,
+            Signal,
+        };
+        How how = How::Unknown;
+        int code = 0; // exit status or signal
+        QString lastWords{}; // first line of its standard error
     };
 
     ChildProcess() = default;
@@ -38,6 +43,7 @@ public:
     bool isStopped() const;
 
 private:
+    void kill() const;
     bool spawn(const QString& program, const QStringList& arguments, int socket, int errors);
     QString lastWords() const;
 

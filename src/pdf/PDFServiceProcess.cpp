@@ -12,7 +12,21 @@ namespace leafcast {
 
 namespace {
 
+    using Ending = ChildProcess::Ending;
     using Outcome = PDFServiceAnswer::Outcome;
+
+    QString described(const Ending& ending)
+    {
+        switch (ending.how) {
+        case Ending::How::ExitStatus:
+            return u"exit status %1"_s.arg(ending.code);
+        case Ending::How::Signal:
+            return u"signal %1"_s.arg(ending.code);
+        case Ending::How::Unknown:
+            break;
+        }
+        return u"it is not known how"_s;
+    }
 
     PDFServiceAnswer failure(Outcome outcome, const QString& problem)
     {
@@ -93,22 +107,22 @@ PDFServiceAnswer PDFServiceProcess::failed(LineChannel::Result result, std::chro
         return died();
     end();
     if (result == LineChannel::Result::TimedOut)
-        return failure(Outcome::TimedOut, u"it took longer than %1 seconds"_s.arg(limit.count()));
+        return failure(Outcome::TimedOut,
+            limit.count() == 1 ? u"it took longer than a second"_s
+                               : u"it took longer than %1 seconds"_s.arg(limit.count()));
     return failure(Outcome::Died, u"the PDF service gave an answer that makes no sense"_s);
 }
 
 PDFServiceAnswer PDFServiceProcess::died()
 {
-    const ChildProcess::Ending ending = end();
+    const Ending ending = end();
     if (iChild.isStopped())
         return stopped();
-    const QString how
-        = ending.bySignal ? u"signal %1"_s.arg(ending.code) : u"exit status %1"_s.arg(ending.code);
-    if (!iHasAnswered && !ending.bySignal && !ending.lastWords.isEmpty())
+    if (!iHasAnswered && ending.how == Ending::How::ExitStatus && !ending.lastWords.isEmpty())
         return notStarted(ending.lastWords);
     if (!ending.lastWords.isEmpty())
         LOG_DEBUG("PDFServiceProcess", ending.lastWords);
-    return failure(Outcome::Died, u"the PDF service crashed over it (%1)"_s.arg(how));
+    return failure(Outcome::Died, u"the PDF service crashed over it (%1)"_s.arg(described(ending)));
 }
 
 } // namespace leafcast

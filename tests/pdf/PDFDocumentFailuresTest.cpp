@@ -43,7 +43,7 @@ TEST_F(PDFDocumentFailuresTest, EachWayToFailCostsOneAnswerAndOneLogLine)
     ASSERT_EQ(iLog.lines().size(), 5);
     EXPECT_TRUE(iLog.lines().at(0).contains(u"text of page 2: the PDF service crashed"_s));
     EXPECT_TRUE(iLog.lines().at(3).endsWith(u"it is refused"_s));
-    EXPECT_TRUE(iLog.lines().at(4).endsWith(u"longer than 1 seconds"_s));
+    EXPECT_TRUE(iLog.lines().at(4).endsWith(u"longer than a second"_s));
 }
 
 TEST_F(PDFDocumentFailuresTest, APageThatCrashesDoesNotTakeItsNeighboursAlong)
@@ -86,7 +86,7 @@ TEST_F(PDFDocumentFailuresTest, AServiceShortOfMemoryIsReplaced)
 TEST_F(PDFDocumentFailuresTest, ADocumentThatCannotBeOpenedSaysWhy)
 {
     expectOpenToFail(documentThat(R"({"open":"crash"})"), u"crashed over it (signal 9)"_s);
-    expectOpenToFail(documentThat(R"({"open":"hang"})", 1), u"longer than 1 seconds"_s);
+    expectOpenToFail(documentThat(R"({"open":"hang"})", 1), u"longer than a second"_s);
     expectOpenToFail(documentThat(R"({"open":"garbage"})"), u"makes no sense"_s);
 }
 

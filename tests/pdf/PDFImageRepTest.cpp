@@ -76,7 +76,7 @@ TEST_F(PDFImageRepTest, PagesThatFailDoSoAlone)
     expectNoPicture(pictures, 2, u"crashed"_s);
     expectNoPicture(pictures, 3, u"crashed"_s);
     expectPicture(pictures, 4);
-    expectNoPicture(pictures, 5, u"longer than 1 seconds"_s);
+    expectNoPicture(pictures, 5, u"longer than a second"_s);
     expectNoPicture(pictures, 6, u"makes no sense"_s);
     expectPicture(pictures, 7);
     expectNoPicture(pictures, 8, u"refused"_s);
