@@ -2,7 +2,6 @@
 #include "base/NotificationCenter.h"
 
 #include <utility>
-#include <vector>
 
 namespace leafcast {
 
@@ -29,30 +28,43 @@ NotificationCenter& NotificationCenter::defaultCenter()
 NotificationCenter::Registration NotificationCenter::addObserver(
     const QString& name, Observer observer)
 {
+    const auto entry = std::make_shared<Entry>();
+    entry->name = name;
+    entry->observer = std::move(observer);
     const std::lock_guard lock(iMutex);
     const int id = iNextId++;
-    iEntries.emplace(id, Entry{ name, std::make_shared<const Observer>(std::move(observer)) });
+    iEntries.emplace(id, entry);
     return Registration(this, id);
 }
 
 void NotificationCenter::post(const QString& name, const QVariantMap& userInfo)
 {
-    std::vector<std::shared_ptr<const Observer>> observers;
-    {
-        const std::lock_guard lock(iMutex);
-        for (const auto& [id, entry] : iEntries)
-            if (entry.name == name)
-                observers.push_back(entry.observer);
-    }
     const Notification notification{ name, userInfo };
-    for (const auto& observer : observers)
-        (*observer)(notification);
+    for (const auto& entry : observersOf(name)) {
+        const std::lock_guard running(entry->running);
+        if (!entry->isEnded)
+            entry->observer(notification);
+    }
+}
+
+std::vector<std::shared_ptr<NotificationCenter::Entry>> NotificationCenter::observersOf(
+    const QString& name)
+{
+    const std::lock_guard lock(iMutex);
+    std::vector<std::shared_ptr<Entry>> found;
+    for (const auto& [id, entry] : iEntries)
+        if (entry->name == name)
+            found.push_back(entry);
+    return found;
 }
 
 void NotificationCenter::removeObserver(int id)
 {
-    const std::lock_guard lock(iMutex);
-    iEntries.erase(id);
+    std::unique_lock lock(iMutex);
+    const auto removed = iEntries.extract(id);
+    lock.unlock(); // a call under way may need it before it ends
+    const std::lock_guard running(removed.mapped()->running);
+    removed.mapped()->isEnded = true;
 }
 
 } // namespace leafcast

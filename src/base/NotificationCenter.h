@@ -7,6 +7,7 @@
 #include <mutex>
 #include <QString>
 #include <QVariantMap>
+#include <vector>
 
 namespace leafcast {
 
@@ -17,13 +18,15 @@ struct Notification {
 
 /// Carries notifications from posters to observers who do not know each other. Posting is
 /// synchronous: observers run on the poster's thread, in the order of their registration, and pass
-/// on to another thread themselves. Safe on any thread; an observer may register, unregister and
-/// post.
+/// on to another thread themselves; one observer runs on one thread at a time. Safe on any thread;
+/// an observer may register, unregister (itself too) and post.
 class NotificationCenter {
 public:
     using Observer = std::function<void(const Notification&)>;
 
-    /// Ends the observation when it is destroyed.
+    /// Ends the observation when it is destroyed: once that is done, the observer is not running on
+    /// another thread, nor will it. So a thread that ends it may hold nothing that the observer
+    /// waits for.
     class Registration {
     public:
         Registration() = default;
@@ -49,13 +52,16 @@ public:
 private:
     struct Entry {
         QString name;
-        std::shared_ptr<const Observer> observer;
+        Observer observer;
+        std::recursive_mutex running; // guards the call and isEnded
+        bool isEnded = false;
     };
 
+    std::vector<std::shared_ptr<Entry>> observersOf(const QString& name);
     void removeObserver(int id);
 
     std::mutex iMutex;
-    std::map<int, Entry> iEntries;
+    std::map<int, std::shared_ptr<Entry>> iEntries; // by id, which is in the order of registration
     int iNextId = 1;
 };
 

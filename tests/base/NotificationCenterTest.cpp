@@ -2,6 +2,8 @@
 #include "base/NotificationCenter.h"
 
 #include <gmock/gmock.h>
+#include <semaphore>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace leafcast;
@@ -36,4 +38,33 @@ TEST(NotificationCenter, AnObserverMayEndItselfWhileItIsCalled)
     center.post(u"A"_s);
     center.post(u"A"_s);
     EXPECT_EQ(calls, 1);
+}
+
+TEST(NotificationCenter, OnceAnObservationHasEndedItsObserverRunsOnNoThread)
+{
+    NotificationCenter center;
+    std::binary_semaphore isCalled(0);
+    auto state = std::make_unique<std::string>("in use");
+    auto registration = center.addObserver(u"A"_s, [&](const Notification&) {
+        isCalled.release();
+        std::this_thread::sleep_for(std::chrono::milliseconds(20)); // for a faulty end to overtake
+        center.post(u"B"_s);
+        state->append(" to the end");
+    });
+    std::jthread poster([&] { center.post(u"A"_s); });
+    isCalled.acquire();
+    registration = {};
+    EXPECT_EQ(*state, "in use to the end");
+    state.reset();
+}
+
+TEST(NotificationCenter, AnObserverMayEndALaterOneBeforeItsTurn)
+{
+    NotificationCenter center;
+    NotificationCenter::Registration second;
+    int calls = 0;
+    const auto first = center.addObserver(u"A"_s, [&](const Notification&) { second = {}; });
+    second = center.addObserver(u"A"_s, [&](const Notification&) { ++calls; });
+    center.post(u"A"_s);
+    EXPECT_EQ(calls, 0);
 }
