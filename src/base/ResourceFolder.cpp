@@ -24,6 +24,12 @@ namespace {
         return QDir::cleanPath(programFolder() + u'/' + relativePath);
     }
 
+    bool isProgram(const QString& path)
+    {
+        const QFileInfo info(path);
+        return info.isFile() && info.isExecutable();
+    }
+
 } // namespace
 
 QString path()
@@ -51,10 +57,11 @@ QStringList pathsForResourcesOfType(const QString& type, const QString& folder)
 
 QString helperProgram(const QString& name, const char* variable)
 {
-    const QStringList candidates = { qEnvironmentVariable(variable), besideProgram(name),
-        besideProgram(u"../libexec/leafcast/"_s + name) };
-    for (const QString& candidate : candidates)
-        if (!candidate.isEmpty() && QFileInfo(candidate).isExecutable())
+    if (const QString chosen = qEnvironmentVariable(variable); !chosen.isEmpty())
+        return isProgram(chosen) ? chosen : QString();
+    for (const QString& candidate :
+        { besideProgram(name), besideProgram(u"../libexec/leafcast/"_s + name) })
+        if (isProgram(candidate))
             return candidate;
     return {};
 }

@@ -19,8 +19,8 @@ QString pathForResource(const QString& name, const QString& type, const QString&
 QStringList pathsForResourcesOfType(const QString& type, const QString& folder);
 
 /// Path of a program that ours start: the variable (LEAFCAST_PDF_SERVICE for "leafcast-pdf") when
-/// set, else beside this program, else in ../libexec/leafcast. The empty string when it is in none
-/// of them.
+/// set and not empty, else beside this program, else in ../libexec/leafcast. The empty string when
+/// no executable file lies there; a variable that names none is not passed over for another place.
 QString helperProgram(const QString& name, const char* variable);
 
 } // namespace leafcast::ResourceFolder

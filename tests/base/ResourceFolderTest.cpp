@@ -33,3 +33,21 @@ TEST_F(ResourceFolderTest, FindsResourcesByNameTypeAndFolder)
         QStringList(
             { iFolder.filePath(u"DemoImgs/2.jpg"_s), iFolder.filePath(u"DemoImgs/10.jpg"_s) }));
 }
+
+TEST_F(ResourceFolderTest, AHelperProgramIsTheOneThatTheVariableNamesOrNone)
+{
+    const char* variable = "LEAFCAST_TEST_HELPER";
+    const auto helper = [&](const QString& named) {
+        qputenv(variable, QFile::encodeName(named));
+        // A program of this name does lie beside this one.
+        const QString own = QFileInfo(QFile::symLinkTarget(u"/proc/self/exe"_s)).fileName();
+        const QString found = ResourceFolder::helperProgram(own, variable);
+        qunsetenv(variable);
+        return found;
+    };
+    EXPECT_EQ(helper(u"/bin/sh"_s), u"/bin/sh"_s);
+    EXPECT_EQ(helper({}), QFile::symLinkTarget(u"/proc/self/exe"_s));
+    EXPECT_EQ(helper(iFolder.path()), QString());
+    EXPECT_EQ(helper(iFolder.filePath(u"missing"_s)), QString());
+    EXPECT_EQ(helper(writeTestFile(iFolder.filePath(u"text"_s), "")), QString());
+}
