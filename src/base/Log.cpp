@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/Log.h"
 
+#include "base/LogLevels.h"
+
 #include <log4cplus/logger.h>
 #include <log4cplus/nullappender.h>
 
@@ -18,21 +20,6 @@ namespace {
             log4cplus::Logger::getRoot().addAppender(
                 log4cplus::SharedAppenderPtr(new log4cplus::NullAppender));
         });
-    }
-
-    log4cplus::LogLevel toLog4cplus(LogLevel level)
-    {
-        switch (level) {
-        case LogLevel::Debug:
-            return log4cplus::DEBUG_LOG_LEVEL;
-        case LogLevel::Info:
-            return log4cplus::INFO_LOG_LEVEL;
-        case LogLevel::Warn:
-            return log4cplus::WARN_LOG_LEVEL;
-        case LogLevel::Error:
-            break;
-        }
-        return log4cplus::ERROR_LOG_LEVEL;
     }
 
     log4cplus::Logger loggerFor(const char* className)

@@ -2,12 +2,15 @@
 #include "base/LogConfiguration.h"
 
 #include "base/FileSteps.h"
+#include "base/LogLevels.h"
 
+#include <algorithm>
 #include <log4cplus/configurator.h>
 #include <log4cplus/consoleappender.h>
 #include <log4cplus/helpers/property.h>
 #include <log4cplus/layout.h>
 #include <log4cplus/logger.h>
+#include <log4cplus/spi/loggingevent.h>
 #include <QFile>
 #include <QFileInfo>
 
@@ -30,6 +33,26 @@ namespace {
         return native;
     }
 
+    const char* wordFor(log4cplus::LogLevel level)
+    {
+        if (level >= log4cplus::ERROR_LOG_LEVEL)
+            return "error";
+        if (level >= log4cplus::WARN_LOG_LEVEL)
+            return "warning";
+        return level >= log4cplus::INFO_LOG_LEVEL ? "info" : "debug";
+    }
+
+    /// A line as command line programs write it.
+    class TerminalLayout : public log4cplus::Layout {
+    public:
+        void formatAndAppend(
+            log4cplus::tostream& output, const log4cplus::spi::InternalLoggingEvent& event) override
+        {
+            output << "leafcast: " << wordFor(event.getLogLevel()) << ": " << event.getMessage()
+                   << '\n';
+        }
+    };
+
 } // namespace
 
 void configureFromFile(const QString& propertiesFile, const QString& logFile)
@@ -48,12 +71,11 @@ void addStandardErrorSink(LogLevel threshold)
     const bool logToStdErr = true;
     const bool immediateFlush = true;
     SharedAppenderPtr sink(new ConsoleAppender(logToStdErr, immediateFlush));
-    sink->setLayout(std::make_unique<PatternLayout>("leafcast: %p: %m%n"));
-    sink->setThreshold(threshold == LogLevel::Debug ? DEBUG_LOG_LEVEL : WARN_LOG_LEVEL);
+    sink->setLayout(std::make_unique<TerminalLayout>());
+    sink->setThreshold(toLog4cplus(threshold));
     Logger root = Logger::getRoot();
     root.addAppender(sink);
-    if (threshold == LogLevel::Debug)
-        root.setLogLevel(DEBUG_LOG_LEVEL);
+    root.setLogLevel(std::min(root.getLogLevel(), toLog4cplus(threshold)));
 }
 
 } // namespace leafcast::LogConfiguration

@@ -11,7 +11,7 @@ namespace leafcast::LogConfiguration {
 void configureFromFile(const QString& propertiesFile, const QString& logFile);
 
 /// Adds a sink on standard error for records of at least the given level: one line each,
-/// "leafcast: warning: text".
+/// "leafcast: warning: text" (the others are debug, info and error).
 void addStandardErrorSink(LogLevel threshold);
 
 } // namespace leafcast::LogConfiguration

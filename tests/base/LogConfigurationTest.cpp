@@ -26,3 +26,16 @@ TEST(LogConfiguration, TheShippedPropertiesWriteRecordsToTheGivenFile)
                              "e fehlt"))
         << log.toStdString();
 }
+
+TEST(LogConfiguration, StandardErrorGetsOneLineARecordFromTheThresholdOn)
+{
+    testing::internal::CaptureStderr();
+    LogConfiguration::addStandardErrorSink(LogLevel::Info);
+    LOG_DEBUG("FileSteps", u"a"_s);
+    LOG_INFO("FileSteps", u"b"_s);
+    LOG_WARN("FileSteps", u"Straße"_s);
+    LOG_ERROR("FileSteps", u"d"_s);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+        "leafcast: info: b\nleafcast: warning: Stra\xC3\x9F"
+        "e\nleafcast: error: d\n");
+}
