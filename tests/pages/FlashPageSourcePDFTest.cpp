@@ -97,6 +97,11 @@ TEST_F(FlashPageSourcePDFTest, StoppingKeepsThePagesDrawnAndNothingThatWasDrawnA
     EXPECT_TRUE(source->normalPages().empty());
     EXPECT_EQ(progress.lines().size(), 2);
     EXPECT_THAT(workFiles(*source), ElementsAre(u"1.jpg"_s, u"2.jpg"_s));
+
+    source->setStop(false);
+    source->generateNormalPages();
+    EXPECT_THAT(progress.lines().mid(2),
+        ElementsAre(u"geneateNormalPage 1/9"_s, u"geneateNormalPage 2/9"_s));
 }
 
 TEST_F(FlashPageSourcePDFTest, NumbersThatTheDocumentDoesNotHaveStayWithoutAFile)

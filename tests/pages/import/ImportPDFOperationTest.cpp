@@ -113,6 +113,8 @@ TEST_F(ImportPDFOperationTest, CancelledWhileDrawingStopsBeforeTheNextPageAndLea
     EXPECT_THAT(progress.lines(), ElementsAre(u"geneatePage 1/6"_s, u"geneatePage 2/6"_s));
     EXPECT_EQ(log.lines().filter(u"ImportPDFOperation"_s).last(),
         u"DEBUG ImportPDFOperation: import pdf is cancelled"_s);
+    EXPECT_THAT(log.lines().filter(u"FlashPagesAnnotationsPDF"_s), IsEmpty());
+    EXPECT_THAT(log.lines().filter(u"FlashOutlinePDF"_s), IsEmpty());
     EXPECT_FALSE(workFolder.isEmpty());
     EXPECT_FALSE(QFile::exists(workFolder));
 }
