@@ -70,7 +70,7 @@ void FlashOutlineItem::writeToXMLNode(const XMLElement& itemNode) const
     while (!left.empty()) {
         auto [item, node] = std::move(left.back());
         left.pop_back();
-        appendText(node, u"c"_s, item->iCaption);
+        appendText(node, u"c"_s, item->iCaption); // without one deliberately empty, not "(null)"
         appendText(node, u"p"_s, QString::number(item->iPageIndex));
         appendText(node, u"l"_s, QString::number(item->iLevel));
         XMLElement children = node.addChild(u"ci"_s);

@@ -26,7 +26,9 @@ public:
     qint32 pageIndex() const { return iPageIndex; }
     void setPageIndex(qint32 number) { iPageIndex = number; }
 
-    /// The enclosing entry; none for one at the top, and once that entry is gone.
+    /// The enclosing entry, as it was set; none for one at the top, and once that entry is
+    /// destroyed. Who takes an entry out of its parent sets none, or the parent may go without
+    /// telling it.
     FlashOutlineItem* parent() const { return iParent; }
     void setParent(FlashOutlineItem* parent) { iParent = parent; }
 

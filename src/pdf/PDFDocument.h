@@ -21,8 +21,8 @@ enum class PDFOpenError {
     Unreadable, // not a PDF, or beyond repair
     Locked, // needs a password
     WrongPassword,
-    ServiceFailed
-}; // the PDF service can't be started, or died over the file
+    ServiceFailed, // the PDF service can't be started, or died over the file
+};
 
 /// An opened PDF: values filled from the answers of one worker of the PDF service, which is
 /// restarted when it dies. Page indices are from 0. Any thread, one call at a time.

@@ -2,40 +2,24 @@
 #include "settings/HXCUtility.h"
 
 #include "support/LogCapture.h"
+#include "support/TestFiles.h"
 
 #include <gmock/gmock.h>
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
-using leafcast::FlashTrustFolders;
-using leafcast::HXCUtility;
+using namespace leafcast;
 
 namespace {
 
 class FlashTrustFileTest : public testing::Test {
 protected:
-    static QByteArray read(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
     static QByteArray utf16(const QString& text)
     {
         QByteArray bytes("\xFF\xFE", 2);
         for (const QChar c : text)
             bytes.append(static_cast<char>(c.cell())).append(static_cast<char>(c.row()));
         return bytes;
-    }
-
-    void write(const QByteArray& bytes) const
-    {
-        QDir().mkpath(iFolder.filePath(u"machine/Macromedia/FlashPlayerTrust"_s));
-        QFile file(iTrustFile);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
     }
 
     QTemporaryDir iFolder;
@@ -48,19 +32,19 @@ protected:
 TEST_F(FlashTrustFileTest, HoldsEachPathOnceAndNoTrailingLineFeed)
 {
     HXCUtility::makeDiractoryTrustByFlash(u"/tmp/xy"_s, iFolders);
-    EXPECT_EQ(read(iTrustFile), utf16(u"/tmp/xy"_s));
+    EXPECT_EQ(readTestFile(iTrustFile), utf16(u"/tmp/xy"_s));
     HXCUtility::makeDiractoryTrustByFlash(u"/tmp/x"_s, iFolders);
     HXCUtility::makeDiractoryTrustByFlash(u"/tmp/ä"_s, iFolders);
     HXCUtility::makeDiractoryTrustByFlash(u"/tmp/xy"_s, iFolders);
-    EXPECT_EQ(read(iTrustFile), utf16(u"/tmp/xy\n/tmp/x\n/tmp/ä"_s));
+    EXPECT_EQ(readTestFile(iTrustFile), utf16(u"/tmp/xy\n/tmp/x\n/tmp/ä"_s));
     EXPECT_TRUE(QFile::exists(iFolder.filePath(u"fixed/Macromedia/FlashPlayerTrust"_s)));
 }
 
 TEST_F(FlashTrustFileTest, ReadsEitherByteOrder)
 {
-    write(QByteArray("\xFE\xFF\0A", 4));
+    writeTestFile(iTrustFile, QByteArray("\xFE\xFF\0A", 4));
     HXCUtility::makeDiractoryTrustByFlash(u"B"_s, iFolders);
-    EXPECT_EQ(read(iTrustFile), utf16(u"A\nB"_s));
+    EXPECT_EQ(readTestFile(iTrustFile), utf16(u"A\nB"_s));
 }
 
 TEST_F(FlashTrustFileTest, LeavesAFileThatIsNotUtf16)
@@ -68,10 +52,10 @@ TEST_F(FlashTrustFileTest, LeavesAFileThatIsNotUtf16)
     const QByteArray odd("\xFF\xFE"
                          "A",
         3);
-    write(odd);
-    const leafcast::LogCapture log;
+    writeTestFile(iTrustFile, odd);
+    const LogCapture log;
     HXCUtility::makeDiractoryTrustByFlash(u"B"_s, iFolders);
-    EXPECT_EQ(read(iTrustFile), odd);
+    EXPECT_EQ(readTestFile(iTrustFile), odd);
     EXPECT_EQ(log.lines().size(), 1);
 }
 
@@ -80,13 +64,13 @@ TEST_F(FlashTrustFileTest, WithoutAFolderOfTheMachineTheFixedOneGetsACopyBesideT
     iFolders.localDomainFolder.clear();
     HXCUtility::makeDiractoryTrustByFlash(u"A"_s, iFolders);
     const QString folder = iFolder.filePath(u"fixed/Macromedia/FlashPlayerTrust"_s);
-    EXPECT_EQ(read(folder + u"/PT.cfg"_s), utf16(u"A"_s));
-    EXPECT_EQ(read(folder + u".PT.cfg"_s), utf16(u"A"_s));
+    EXPECT_EQ(readTestFile(folder + u"/PT.cfg"_s), utf16(u"A"_s));
+    EXPECT_EQ(readTestFile(folder + u".PT.cfg"_s), utf16(u"A"_s));
 }
 
 TEST_F(FlashTrustFileTest, SaysInTheLogWhetherTheFileIsThere)
 {
-    const leafcast::LogCapture log(leafcast::LogLevel::Debug);
+    const LogCapture log(LogLevel::Debug);
     HXCUtility::makeDiractoryTrustByFlash(u"A"_s, iFolders);
     EXPECT_THAT(log.lines(),
         testing::ElementsAre(u"DEBUG HXCUtility: trust folder is:"_s + iTrustFile,
@@ -95,9 +79,8 @@ TEST_F(FlashTrustFileTest, SaysInTheLogWhetherTheFileIsThere)
 
 TEST_F(FlashTrustFileTest, AFolderThatCannotBeMadeIsOnlyLogged)
 {
-    QFile blocker(iFolders.localDomainFolder);
-    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
-    const leafcast::LogCapture log(leafcast::LogLevel::Debug);
+    writeTestFile(iFolders.localDomainFolder, "a file where the folder must be");
+    const LogCapture log(LogLevel::Debug);
     HXCUtility::makeDiractoryTrustByFlash(u"A"_s, iFolders);
     EXPECT_EQ(log.lines().last(), u"DEBUG HXCUtility: file doest not exits!!!!!!!!!"_s);
 }

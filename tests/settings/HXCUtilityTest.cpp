@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "settings/HXCUtility.h"
 
+#include "support/TestFiles.h"
+
 #include <gmock/gmock.h>
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -14,10 +14,8 @@ using testing::IsEmpty;
 TEST(HXCUtility, ListsImagesBySmallLetteredExtensionInNaturalOrder)
 {
     const QTemporaryDir folder;
-    for (const auto& name : { u"10.jpg"_s, u"2.jpg"_s, u"b.PNG"_s, u"c.png"_s, u"d.jpeg"_s }) {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    }
+    for (const auto& name : { u"10.jpg"_s, u"2.jpg"_s, u"b.PNG"_s, u"c.png"_s, u"d.jpeg"_s })
+        leafcast::writeTestFile(folder.filePath(name), {});
     EXPECT_THAT(HXCUtility::imageFilesOfDiractoryAtPath(folder.path()),
         ElementsAre(u"2.jpg"_s, u"10.jpg"_s, u"c.png"_s));
     EXPECT_THAT(HXCUtility::imageFilesOfDiractoryAtPath(u"/no/such/folder"_s), IsEmpty());
