@@ -3,11 +3,13 @@
 
 #include "cli/Command.h"
 #include "cli/Interrupt.h"
+#include "cli/ShownProgress.h"
 #include "cli/WatchedWork.h"
 #include "publish/BookCheck.h"
 #include "publish/FlashBookOutput.h"
 #include "publish/FlashBookOutputApp.h"
 #include "publish/HTMLConfigInfo.h"
+#include "publish/PublishNotifications.h"
 
 #include <algorithm>
 #include <QDir>
@@ -69,12 +71,15 @@ namespace {
         writer.setWorkerCount(parts.options.jobs);
     }
 
-    void runWriter(FlashBookOutput& writer, PublishReport& report)
+    void runWriter(FlashBookOutput& writer, const PublishOptions& options, PublishReport& report)
     {
         QElapsedTimer clock;
         clock.start();
+        ProgressBar bar(u"pages' text"_s, options.progressVisibility());
+        ShownProgress progress(bar, ReaderDataProgressMSG, QString());
         WatchedWork{
             .work = [&] { writer.ouputTheBook(); },
+            .showProgress = [&] { progress.show(); },
             .cancel = [&] { writer.flashPageSource()->setStop(true); }
         }.run();
         report.writeSeconds = static_cast<double>(clock.elapsed()) / 1000;
@@ -89,7 +94,7 @@ namespace {
             [pageNumber](const auto& page) { return page.number == pageNumber; });
     }
 
-    void checkBook(const FlashBookOutput& writer, PublishReport& report)
+    void checkBook(const FlashBookOutput& writer, bool isPackage, PublishReport& report)
     {
         const BookCheck check(writer);
         for (const int pageNumber : check.pagesWithoutPicture)
@@ -98,6 +103,9 @@ namespace {
                     { pageNumber, u"its picture could not be copied into the book"_s });
         for (const QString& file : check.missingFiles)
             report.missingFiles.append(QDir(report.output).relativeFilePath(file));
+        // A folder is read without them; a package is of little use.
+        if (isPackage)
+            report.warnings.append(check.notShipped);
     }
 
     // Without reader data a player knows the number of pages, and nothing else of their files.
@@ -126,8 +134,8 @@ void writeBook(const BookParts& parts, PublishReport& report)
     report.title = title(parts);
     report.output = parts.place.bookPath();
     report.page = QFileInfo(writer->outputHTMLFileName()).absoluteFilePath();
-    runWriter(*writer, report);
-    checkBook(*writer, report);
+    runWriter(*writer, parts.options, report);
+    checkBook(*writer, parts.options.app, report);
     warnOfUnlistedPages(*writer, report);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cli/PasswordOptions.h"
+#include "cli/ProgressBar.h"
 #include "cli/TemplateChoice.h"
 #include "pdf/PDFServiceLimits.h"
 
@@ -37,6 +38,10 @@ struct PublishOptions {
     /// The file name of the page; a null string where the writer is to choose. Throws
     /// CommandFailure.
     QString pageFileName() const;
+    ProgressBar::Visibility progressVisibility() const
+    {
+        return quiet ? ProgressBar::Visibility::Never : ProgressBar::Visibility::WhenTerminal;
+    }
     /// The JPEG quality (0 to 100) of the quality level.
     int quality() const;
 };

@@ -3,6 +3,8 @@
 
 #include "base/FileSteps.h"
 #include "base/Log.h"
+#include "base/NotificationCenter.h"
+#include "publish/PublishNotifications.h"
 #include "publish/ReaderDataWriter.h"
 
 #include <QCryptographicHash>
@@ -25,12 +27,20 @@ namespace {
     }
 
     // A QSaveFile commits after a short write or a failed last flush all the same.
+    void postProgress(const ReaderPages& pages)
+    {
+        NotificationCenter::defaultCenter().post(ReaderDataProgressMSG,
+            { { u"pageIndex"_s, pages.position() }, { u"totalPage"_s, pages.count() } });
+    }
+
     bool writeContent(QSaveFile& file, const ReaderBook& book)
     {
         ReaderPages pages(book);
         ReaderDataWriter writer(file);
-        while (!pages.atEnd() && !book.pageSource.stop() && writer.isWhole())
+        while (!pages.atEnd() && !book.pageSource.stop() && writer.isWhole()) {
             writer.addPage(pages.next());
+            postProgress(pages);
+        }
         writer.finish(outlineOf(book));
         return pages.atEnd() && writer.isWhole() && file.flush();
     }

@@ -35,6 +35,8 @@ public:
 
     bool atEnd() const { return iNext == iPages.size(); }
     ReaderPage next();
+    int position() const { return static_cast<int>(iNext); } // how many were made
+    int count() const { return static_cast<int>(iPages.size()); }
 
     /// http, https, mailto and tel: what a reader may open without harm.
     static bool isPublishableURL(const QString& url);
