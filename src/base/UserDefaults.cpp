@@ -21,7 +21,7 @@ namespace {
     QString unusedNameBeside(const QString& path)
     {
         for (int i = 1;; ++i) {
-            const QString candidate = u"%1.damaged-%2"_s.arg(path, QString::number(i));
+            QString candidate = u"%1.damaged-%2"_s.arg(path, QString::number(i));
             if (!FileSteps::exists(candidate))
                 return candidate;
         }

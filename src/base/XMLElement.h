@@ -21,7 +21,8 @@ public:
     explicit XMLElement(const QString& name);
 
     QString name() const;
-    /// Where the element starts in the text that it was parsed from, from 1; 0 for one made by hand.
+    /// Where the element starts in the text that it was parsed from, from 1; 0 for one made by
+    /// hand.
     int line() const;
 
     /// The text of the element and everything below it.

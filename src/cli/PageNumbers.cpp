@@ -29,7 +29,7 @@ std::vector<qint32> pageNumbers(const QString& range, const QString& input, int 
 {
     if (pageCount == 0)
         throw CommandFailure(ExitCode::InputUnreadable, u"%1 has no pages"_s.arg(input));
-    const auto numbers = parsed(range, pageCount);
+    auto numbers = parsed(range, pageCount);
     const auto exists = [pageCount](qint32 number) { return number >= 1 && number <= pageCount; };
     if (std::ranges::none_of(numbers, exists))
         throw CommandFailure(ExitCode::WrongUsage,

@@ -74,7 +74,7 @@ namespace {
 
     QString fileName(const std::string& name)
     {
-        const QString text = fromArgument(name);
+        QString text = fromArgument(name);
         if (text.contains(u'/') || QFileInfo(text).completeBaseName().isEmpty())
             throw CommandFailure(ExitCode::WrongUsage,
                 u"--name %1: it must be a file name without a folder"_s.arg(text));
@@ -114,8 +114,8 @@ QString PublishOptions::outputFolder() const
 
 QString PublishOptions::packageName() const
 {
-    const QString packageName = name.empty() ? nameOfInput(inputs().constFirst())
-                                             : QFileInfo(fileName(name)).completeBaseName();
+    QString packageName = name.empty() ? nameOfInput(inputs().constFirst())
+                                       : QFileInfo(fileName(name)).completeBaseName();
     if (packageName.isEmpty())
         throw CommandFailure(
             ExitCode::WrongUsage, u"the package needs a name: give one with --name"_s);
