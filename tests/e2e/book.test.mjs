@@ -136,9 +136,18 @@ describe('a published book', () => {
     assert.deepEqual(await drawnPages(page), [1]);
     for (let turns = 0; turns < 2; turns++) await page.keyboard.press('ArrowRight');
     await page.locator('.missing').waitFor();
-    assert.equal(await page.locator('.missing').textContent(), '5');
+    assert.equal(await page.locator('.missing .label').textContent(), '5');
     await page.keyboard.press('End');
     assert.equal(await position(page), '16 / 16');
+    await page.close();
+  });
+
+  it('names the pictures it looked for when it has no page list to go by', async () => {
+    copies.push(publishMagazine('--pages', '5-6', '--set', 'readerData=NO', '--set', 'coverAlone=NO'));
+    const page = await openBook(browser, copies.at(-1));
+    await page.waitForFunction(() => document.querySelectorAll('.missing').length === 2);
+    assert.deepEqual(await page.locator('.missing .reason').allTextContents(),
+      ['There is no picture files/page/1.jpg.', 'There is no picture files/page/2.jpg.']);
     await page.close();
   });
 

@@ -9,17 +9,17 @@
     English: {
       code: 'en', page: 'Page {0}', position: 'Page {0} of {1}', positions: 'Pages {0} and {1} of {2}',
       previous: 'Previous page', next: 'Next page', fullScreen: 'Full screen', goTo: 'Go to page {0}',
-      book: 'Pages of the book', empty: 'This book has no pages.',
+      book: 'Pages of the book', empty: 'This book has no pages.', missing: 'There is no picture {0}.',
     },
     German: {
       code: 'de', page: 'Seite {0}', position: 'Seite {0} von {1}', positions: 'Seiten {0} und {1} von {2}',
       previous: 'Vorige Seite', next: 'Nächste Seite', fullScreen: 'Vollbild', goTo: 'Zu Seite {0}',
-      book: 'Seiten des Buchs', empty: 'Dieses Buch hat keine Seiten.',
+      book: 'Seiten des Buchs', empty: 'Dieses Buch hat keine Seiten.', missing: 'Es gibt kein Bild {0}.',
     },
     French: {
       code: 'fr', page: 'Page {0}', position: 'Page {0} sur {1}', positions: 'Pages {0} et {1} sur {2}',
       previous: 'Page précédente', next: 'Page suivante', fullScreen: 'Plein écran', goTo: 'Aller à la page {0}',
-      book: 'Pages du livre', empty: 'Ce livre n’a pas de pages.',
+      book: 'Pages du livre', empty: 'Ce livre n’a pas de pages.', missing: 'Il n’y a pas d’image {0}.',
     },
   };
 
@@ -45,6 +45,7 @@
     return TEXTS[config.languageSetting] || ofBrowser || TEXTS.English;
   }
 
+  // Without the page list the names of the pictures can only be guessed.
   function readPages() {
     const data = window.bookData;
     if (isOn(config.readerData) && data && data.version === 1) return data.pages;
@@ -103,6 +104,7 @@
   function addPlaceholder(page, node) {
     node.classList.add('missing');
     create('p', { className: 'label', textContent: page.label }, node);
+    create('p', { className: 'reason', textContent: text('missing', page.image) }, node);
   }
 
   function addPicture(page, node) {
