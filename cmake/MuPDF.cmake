@@ -17,7 +17,11 @@ foreach(library mujs gumbo jbig2dec openjp2 harfbuzz freetype z m)
   list(APPEND MUPDF_NEEDS ${MUPDF_NEEDS_${library}})
 endforeach()
 
-add_library(mupdf INTERFACE)
+# Imported ones, so that CMake keeps what needs before what is needed.
+add_library(mupdf_third STATIC IMPORTED)
+set_target_properties(mupdf_third PROPERTIES IMPORTED_LOCATION ${MUPDF_THIRD_LIBRARY})
+
+add_library(mupdf STATIC IMPORTED)
+set_target_properties(mupdf PROPERTIES IMPORTED_LOCATION ${MUPDF_LIBRARY})
 target_include_directories(mupdf SYSTEM INTERFACE ${MUPDF_INCLUDE_DIR})
-target_link_libraries(mupdf INTERFACE
-  ${MUPDF_LIBRARY} ${MUPDF_THIRD_LIBRARY} static_jpeg ${MUPDF_NEEDS})
+target_link_libraries(mupdf INTERFACE mupdf_third static_jpeg ${MUPDF_NEEDS})

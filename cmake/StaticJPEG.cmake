@@ -12,6 +12,6 @@ if(JPEG_VERSION VERSION_LESS 2.1 OR NOT JPEG_VERSION VERSION_LESS 2.2)
   message(FATAL_ERROR "libjpeg-turbo 2.1 is needed, found ${JPEG_VERSION}")
 endif()
 
-add_library(static_jpeg INTERFACE)
+add_library(static_jpeg STATIC IMPORTED)
+set_target_properties(static_jpeg PROPERTIES IMPORTED_LOCATION ${JPEG_STATIC_LIBRARY})
 target_include_directories(static_jpeg SYSTEM INTERFACE ${JPEG_INCLUDE_DIR})
-target_link_libraries(static_jpeg INTERFACE ${JPEG_STATIC_LIBRARY})
