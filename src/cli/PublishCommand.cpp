@@ -54,7 +54,7 @@ namespace {
         for (const QString& sentence : report.missingPageSentences())
             Console::sayError(sentence);
         for (const QString& file : report.missingFiles)
-            Console::sayError(u"%1 is missing from the book"_s.arg(file));
+            Console::sayError(u"%1 could not be written into the book"_s.arg(file));
         if (!options.quiet)
             Console::say(report.summary());
     }

@@ -26,7 +26,7 @@ std::vector<Annotation> annotationsOfPage(const Document& document, int pageInde
     pdf_obj* page = document.pageObject(pageIndex);
     const TargetReader targets(document);
     std::vector<Annotation> result;
-    document.library().guarded(ErrorCode::Page, [&] {
+    document.mupdf().guarded(ErrorCode::Page, [&] {
         pdf_obj* list = pdf_dict_get(context, page, PDF_NAME(Annots));
         const int count = std::min(pdf_array_len(context, list), MostAnnotations);
         for (int i = 0; i < count; ++i) {

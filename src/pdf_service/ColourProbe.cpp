@@ -12,7 +12,7 @@ namespace {
 
 ColourNeed colourNeedOf(const LoadedPage& page)
 {
-    const Library& library = page.document().library();
+    const Library& library = page.document().mupdf();
     int answer = 0;
     HeldDevice device(library.context());
     const bool finished = library.attempt([&] {

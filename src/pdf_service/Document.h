@@ -23,7 +23,7 @@ public:
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
 
-    const Library& library() const { return iLibrary; }
+    const Library& mupdf() const { return iLibrary; }
     fz_context* context() const { return iLibrary.context(); }
     pdf_document* pdf() const { return iDocument; }
 

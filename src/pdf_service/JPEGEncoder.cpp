@@ -21,7 +21,7 @@ namespace {
 
     // The library's error exit is a jump; it must not pass over objects with destructors.
     struct Compressor {
-        jpeg_compress_struct library{};
+        jpeg_compress_struct jpeg{};
         jpeg_error_mgr errors{};
         jpeg_destination_mgr destination{};
         HuffmanStatistics statistics;
@@ -73,7 +73,7 @@ namespace {
 
     void configure(Compressor& compressor, const Bitmap& bitmap, const JPEGOptions& options)
     {
-        jpeg_compress_struct& library = compressor.library;
+        jpeg_compress_struct& library = compressor.jpeg;
         library.image_width = static_cast<JDIMENSION>(bitmap.width);
         library.image_height = static_cast<JDIMENSION>(bitmap.height);
         library.input_components = bitmap.components;
@@ -92,15 +92,15 @@ namespace {
 
     void connect(Compressor& compressor)
     {
-        compressor.library.err = jpeg_std_error(&compressor.errors);
+        compressor.jpeg.err = jpeg_std_error(&compressor.errors);
         compressor.errors.error_exit = onError;
         compressor.errors.output_message = onMessage;
-        compressor.library.client_data = &compressor;
-        jpeg_create_compress(&compressor.library);
+        compressor.jpeg.client_data = &compressor;
+        jpeg_create_compress(&compressor.jpeg);
         compressor.destination.init_destination = start;
         compressor.destination.empty_output_buffer = grow;
         compressor.destination.term_destination = finish;
-        compressor.library.dest = &compressor.destination;
+        compressor.jpeg.dest = &compressor.destination;
     }
 
     void writeRows(jpeg_compress_struct& library, const Bitmap& bitmap)
@@ -128,14 +128,14 @@ namespace {
             return false;
         connect(compressor);
         configure(compressor, bitmap, options);
-        jpeg_start_compress(&compressor.library, TRUE);
-        if (compressor.library.optimize_coding)
-            compressor.statistics.replaceThoseOf(compressor.library);
+        jpeg_start_compress(&compressor.jpeg, TRUE);
+        if (compressor.jpeg.optimize_coding)
+            compressor.statistics.replaceThoseOf(compressor.jpeg);
         if (bitmap.components == 1)
-            compressor.library.cconvert->color_convert = copyGreyRows;
-        while (compressor.library.next_scanline < compressor.library.image_height)
-            writeRows(compressor.library, bitmap);
-        jpeg_finish_compress(&compressor.library);
+            compressor.jpeg.cconvert->color_convert = copyGreyRows;
+        while (compressor.jpeg.next_scanline < compressor.jpeg.image_height)
+            writeRows(compressor.jpeg, bitmap);
+        jpeg_finish_compress(&compressor.jpeg);
         return true;
     }
 
@@ -152,7 +152,7 @@ void encodeJPEG(
     compressor.output = &output;
     const bool done = compress(compressor, bitmap, chosen);
     const size_t unused = compressor.destination.free_in_buffer;
-    jpeg_destroy_compress(&compressor.library);
+    jpeg_destroy_compress(&compressor.jpeg);
     if (!done)
         throw ServiceError(ErrorCode::Memory, u"the picture needs too much memory"_s);
     output.resize(output.size() - unused);

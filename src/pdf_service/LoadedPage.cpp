@@ -8,7 +8,7 @@ LoadedPage::LoadedPage(const Document& document, int pageIndex)
 {
     fz_context* context = document.context();
     pdf_obj* object = document.pageObject(pageIndex);
-    document.library().guarded(ErrorCode::Page, [&] {
+    document.mupdf().guarded(ErrorCode::Page, [&] {
         iGeometry = PageGeometry::ofPage(context, object);
         iPage = pdf_load_page(context, document.pdf(), pageIndex);
         // Version 1.21 looks the object up with a reference that it then forgets.

@@ -69,7 +69,7 @@ std::vector<OutlineEntry> outlineOf(const Document& document)
     std::vector<OutlineEntry> entries;
     const TargetReader targets(document);
     Walk walk{ context, targets, entries };
-    document.library().guarded(ErrorCode::Unreadable, [&] {
+    document.mupdf().guarded(ErrorCode::Unreadable, [&] {
         pdf_obj* trailer = pdf_trailer(context, document.pdf());
         walk.run(pdf_dict_getp(context, trailer, "Root/Outlines"));
     });

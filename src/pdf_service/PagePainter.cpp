@@ -86,7 +86,7 @@ namespace {
 
         Drawing(const LoadedPage& loaded, Bitmap& bitmap)
             : page(loaded)
-            , library(loaded.document().library())
+            , library(loaded.document().mupdf())
             , pixmap(library.context())
             , device(library.context())
         {

@@ -80,7 +80,7 @@ namespace {
 
 std::vector<TextLine> textOfPage(const LoadedPage& page)
 {
-    const Library& library = page.document().library();
+    const Library& library = page.document().mupdf();
     fz_context* context = library.context();
     const Paper paper{ page.geometry().displayedWidth(), page.geometry().displayedHeight() };
     HeldText text(context);

@@ -25,7 +25,7 @@ TargetReader::TargetReader(const Document& document)
 {
     const char* bytes = nullptr;
     size_t length = 0;
-    const bool read = document.library().attempt([&] {
+    const bool read = document.mupdf().attempt([&] {
         pdf_obj* base
             = pdf_dict_getp(iContext, pdf_trailer(iContext, document.pdf()), "Root/URI/Base");
         bytes = pdf_to_string(iContext, base, &length);

@@ -34,7 +34,7 @@ namespace {
 
     QStringList filesBesidePages(const FlashBookOutput& book)
     {
-        QStringList files = { book.outputHTMLFileName(), book.libraryFileName(),
+        QStringList files = { book.outputHTMLFileName(), book.jQueryFileName(),
             book.mainScriptFileName(), book.styleFolderName() };
         if (book.wantsReaderData())
             files.append(book.readerDataFileName());

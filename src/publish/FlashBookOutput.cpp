@@ -77,7 +77,7 @@ void FlashBookOutput::outputPlayer()
     const QString scripts = inBook(u"javascript"_s);
     FileSteps::remove(scripts);
     FileSteps::makeFolder(scripts);
-    keepResult(iFlashTemplate->copyBookJSFile(libraryFileName()), libraryFileName());
+    keepResult(iFlashTemplate->copyBookJSFile(jQueryFileName()), jQueryFileName());
     keepResult(iFlashTemplate->copyStyleDirToDir(styleFolderName()), styleFolderName());
     copyServer();
 }
@@ -139,7 +139,7 @@ QString FlashBookOutput::readerDataFileName() const
     return inResources(iSaveToFolder, iSearchInfoFolder + u"/book.js"_s);
 }
 
-QString FlashBookOutput::libraryFileName() const
+QString FlashBookOutput::jQueryFileName() const
 {
     return inBook(u"javascript/jquery-1.7.2.min.js"_s);
 }

@@ -38,7 +38,7 @@ public:
     QString outputSWFName() const; // a name only, nothing writes it
     QString mainScriptFileName() const;
     QString readerDataFileName() const;
-    QString libraryFileName() const;
+    QString jQueryFileName() const;
     QString styleFolderName() const;
     /// Whether the template declares the switch "readerData" and has it on.
     bool wantsReaderData() const;
