@@ -28,7 +28,8 @@ namespace {
 void PasswordOptions::addTo(CLI::App& command)
 {
     command.add_option("--password", password, "Password of a locked PDF (Env:LEAFCAST_PASSWORD)");
-    command.add_option("--password-file", file, "File whose first line is the password");
+    command.add_option("--password-file", file, "File whose first line is the password")
+        ->type_name("FILE");
 }
 
 QString PasswordOptions::chosen() const

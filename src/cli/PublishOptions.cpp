@@ -44,7 +44,7 @@ namespace {
         command.add_option(
             "--name", options.name, "File name of the page, or of the package [index.html]");
         command.add_flag(
-            "--app", options.app, "Write a double-clickable package NAME.app into the folder");
+            "--app", options.app, "Write a package NAME.app into the folder");
     }
 
     void addWorkOptions(PublishOptions& options, CLI::App& command)

@@ -87,7 +87,8 @@ void TemplateOptions::addTo(CLI::App& command)
     command
         .add_option("--style", styleName, "Style of the template; see: leafcast styles TEMPLATE")
         ->envname("LEAFCAST_STYLE");
-    command.add_option("--settings", settingsFile, "Settings file to apply after the style");
+    command.add_option("--settings", settingsFile, "Settings file to apply after the style")
+        ->type_name("FILE");
     command.add_option("--set", assignments, "Set one property; may be repeated, applied last")
         ->type_name("KEY=VALUE")
         ->expected(1)
