@@ -1,66 +1,31 @@
 // SPDX-License-Identifier: MIT
 #include "settings/FileViewer.h"
 
-#include <gmock/gmock.h>
-#include <QFile>
+#include "support/TestFiles.h"
+
 #include <QTemporaryDir>
 #include <QThread>
 
 using namespace Qt::StringLiterals;
+using namespace leafcast;
 
-namespace {
-
-/// Programs of the desktop, replaced by scripts that write down how they were called.
-class FileViewerTest : public testing::Test {
-protected:
-    void SetUp() override
-    {
-        iFormerPath = qgetenv("PATH");
-        qputenv("PATH", QFile::encodeName(iFolder.path()) + ":" + iFormerPath);
-    }
-    void TearDown() override { qputenv("PATH", iFormerPath); }
-
-    void install(const QString& program, int exitStatus)
-    {
-        QFile script(iFolder.filePath(program));
-        ASSERT_TRUE(script.open(QIODevice::WriteOnly));
-        script.write(u"#!/bin/sh\nfor last; do :; done\necho \"$7 $last\" > '%1.part'\n"
-                     u"mv '%1.part' '%1'\nexit %2\n"_s.arg(calls(program))
-                         .arg(exitStatus)
-                         .toUtf8());
-        script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
-
-    QString calls(const QString& program) const { return iFolder.filePath(program + u".called"_s); }
-
-    QByteArray waitForCall(const QString& program) const
-    {
-        while (!QFile::exists(calls(program)))
-            QThread::msleep(5);
-        QFile file(calls(program));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll().trimmed();
-    }
-
-    QTemporaryDir iFolder;
-    QByteArray iFormerPath;
-};
-
-} // namespace
-
-TEST_F(FileViewerTest, AsksTheFileManagerToSelectTheItem)
+/// The programs of the desktop are replaced by scripts that write down how they were called.
+TEST(FileViewer, OpensTheParentWhenNoFileManagerSelectsTheItem)
 {
-    install(u"dbus-send"_s, 0);
-    install(u"xdg-open"_s, 0);
-    leafcast::FileViewer::select(u"/books/My Book, 2nd"_s);
-    EXPECT_EQ(waitForCall(u"dbus-send"_s), "array:string:file:///books/My%20Book%2C%202nd string:");
-    EXPECT_FALSE(QFile::exists(calls(u"xdg-open"_s)));
-}
-
-TEST_F(FileViewerTest, OpensTheParentWhenNoFileManagerAnswers)
-{
-    install(u"dbus-send"_s, 1);
-    install(u"xdg-open"_s, 0);
-    leafcast::FileViewer::select(u"/books/My Book"_s);
-    EXPECT_EQ(waitForCall(u"xdg-open"_s), "/books");
+    const QTemporaryDir folder;
+    for (const auto& program : { u"dbus-send"_s, u"xdg-open"_s }) {
+        const QString path = writeTestFile(folder.filePath(program),
+            "#!/bin/sh\nfor last; do :; done\necho \"$7 $last\" >$0.part\n"
+            "mv $0.part $0.called\nexit 1\n");
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::ExeOwner);
+    }
+    const QByteArray formerPath = qgetenv("PATH");
+    qputenv("PATH", QFile::encodeName(folder.path()) + ":" + formerPath);
+    FileViewer::select(u"/books/My Book, 2nd"_s);
+    while (!QFile::exists(folder.filePath(u"xdg-open.called"_s)))
+        QThread::msleep(5);
+    qputenv("PATH", formerPath);
+    EXPECT_EQ(readTestFile(folder.filePath(u"dbus-send.called"_s)),
+        "array:string:file:///books/My%20Book%2C%202nd string:\n");
+    EXPECT_EQ(readTestFile(folder.filePath(u"xdg-open.called"_s)), " /books\n");
 }
