@@ -13,8 +13,6 @@ using namespace leafcast;
 
 namespace {
 
-constexpr PDFRect markedRect{ 130, 380, 80, 30 };
-
 /// Every rotation of a page with a crop box off zero, on which one rectangle is black.
 QByteArray rotatedPages(const std::vector<int>& rotations)
 {
@@ -28,26 +26,29 @@ QByteArray rotatedPages(const std::vector<int>& rotations)
     return builder.build();
 }
 
-/// The box around the dark pixels of a place and its surroundings, as fractions of the picture.
-PageFraction darkBox(const QImage& picture, const PageFraction& around)
-{
-    const QRectF area(around.x * picture.width() - 9, around.y * picture.height() - 9,
-        around.width * picture.width() + 18, around.height * picture.height() + 18);
-    QRect dark;
-    for (int y = 0; y < picture.height(); ++y)
-        for (int x = 0; x < picture.width(); ++x)
-            if (area.contains(x, y) && qGray(picture.pixel(x, y)) < 128)
-                dark |= QRect(x, y, 1, 1);
-    return { dark.x() * 1.0 / picture.width(), dark.y() * 1.0 / picture.height(),
-        dark.width() * 1.0 / picture.width(), dark.height() * 1.0 / picture.height() };
-}
-
 void expectSame(const PageFraction& box, const PageFraction& other, double tolerance)
 {
-    EXPECT_NEAR(box.x, other.x, tolerance);
-    EXPECT_NEAR(box.y, other.y, tolerance);
-    EXPECT_NEAR(box.width, other.width, tolerance);
-    EXPECT_NEAR(box.height, other.height, tolerance);
+    for (const auto side :
+        { &PageFraction::x, &PageFraction::y, &PageFraction::width, &PageFraction::height })
+        EXPECT_NEAR(box.*side, other.*side, tolerance);
+}
+
+/// That the dark pixels of a place and its surroundings fill the place.
+void expectDark(const QImage& picture, const PageFraction& place)
+{
+    const double width = picture.width();
+    const double height = picture.height();
+    const QRectF area(
+        place.x * width, place.y * height, place.width * width, place.height * height);
+    const QRect around = area.toRect().adjusted(-9, -9, 9, 9);
+    QRect dark;
+    for (int y = around.top(); y <= around.bottom(); ++y)
+        for (int x = around.left(); x <= around.right(); ++x)
+            if (qGray(picture.pixel(x, y)) < 128)
+                dark |= QRect(x, y, 1, 1);
+    expectSame(
+        { dark.x() / width, dark.y() / height, dark.width() / width, dark.height() / height },
+        place, 0.005);
 }
 
 } // namespace
@@ -75,27 +76,21 @@ TEST(PDFPageGeometry, ARectangleLiesWhereThePictureAndTheTextShowIt)
         EXPECT_EQ(drawn.height, page.displayedHeight());
         EXPECT_EQ(drawn.bytes, QFileInfo(path).size());
 
-        const PageFraction expected = page.displayed(markedRect);
-        expectSame(darkBox(QImage(path), expected), expected, 0.005);
-
+        expectDark(QImage(path), page.displayed({ 130, 380, 80, 30 }));
         const std::vector<PDFTextLine> lines = texts.next();
         ASSERT_EQ(lines.size(), 1U);
-        const PageFraction word = page.displayed({ 250, 97, 28, 14 });
-        expectSame(lines.front().boxes.front(), word, 0.03);
+        expectSame(lines.front().boxes.front(), page.displayed({ 250, 97, 28, 14 }), 0.03);
     }
 }
 
-TEST(PDFPageGeometry, APageTooLargeIsDrawnSmaller)
+TEST(PDFPageGeometry, ARectangleIsClippedToTheCropBoxAndAnEmptyOneYieldsNoInfinities)
 {
-    const QTemporaryDir folder;
-    PDFBuilder builder;
-    builder.addPage({ .mediaBox = { 0, 0, 20000, 20000 } });
-    PDFImageRep pictures({ .path = writeTestFile(folder.filePath(u"a.pdf"_s), builder.build()) },
-        { .workFolder = folder.path() });
-
-    const RenderedPage page = pictures.drawPage(0, folder.filePath(u"1.jpg"_s));
-    EXPECT_TRUE(page.written) << page.problem.toStdString();
-    EXPECT_TRUE(page.reduced);
-    EXPECT_LT(page.width, 40000);
-    EXPECT_FALSE(pictures.drawPage(1, folder.filePath(u"2.jpg"_s)).written);
+    const auto displayed = [](int rotation, const PDFRect& rect) {
+        return PDFPage(0, { {}, { 100, 50, 200, 400 } }, rotation, 1, {}).displayed(rect);
+    };
+    expectSame(displayed(-720, { 0, 0, 1000, 1000 }), { 0, 0, 1, 1 }, 1e-9);
+    expectSame(displayed(90, { 0, 0, 200, 1000 }), { 0, 0, 1, 0.5 }, 1e-9);
+    expectSame(displayed(0, { 0, 0, 50, 20 }), { 0, 1, 0, 0 }, 1e-9);
+    expectSame(displayed(45, { 120, 370, 60, 40 }), { 0.1, 0.1, 0.3, 0.1 }, 1e-9);
+    expectSame(PDFPage(0, {}, 90, 1, {}).displayed({ 1, 2, 3, 4 }), {}, 0);
 }
