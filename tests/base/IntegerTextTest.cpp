@@ -6,20 +6,11 @@
 using namespace Qt::StringLiterals;
 using leafcast::integerValue;
 
-TEST(IntegerText, ReadsTheLeadingNumberAsPeopleTypeIt)
+TEST(IntegerText, ReadsTheLeadingNumberAsPeopleTypeItAndSaturates)
 {
-    EXPECT_EQ(integerValue(u"  5abc"), 5);
-    EXPECT_EQ(integerValue(u"5 "), 5);
-    EXPECT_EQ(integerValue(u"-12"), -12);
-    EXPECT_EQ(integerValue(u"+7"), 7);
-    EXPECT_EQ(integerValue(u"x"), 0);
-    EXPECT_EQ(integerValue(u""), 0);
-    EXPECT_EQ(integerValue(u"- 3"), 0);
-}
-
-TEST(IntegerText, SaturatesInsteadOfOverflowing)
-{
-    EXPECT_EQ(integerValue(u"2147483647"), 2147483647);
-    EXPECT_EQ(integerValue(u"2147483648"), 2147483647);
-    EXPECT_EQ(integerValue(u"-99999999999999999999999999"), -2147483647 - 1);
+    for (const auto& [text, value] : std::initializer_list<std::pair<QString, int>>{
+             { u"  5abc"_s, 5 }, { u"5 "_s, 5 }, { u"-12"_s, -12 }, { u"+7"_s, 7 }, { u"x"_s, 0 },
+             { u""_s, 0 }, { u"- 3"_s, 0 }, { u"2147483648"_s, 2147483647 },
+             { u"-99999999999999999999999999"_s, -2147483647 - 1 } })
+        EXPECT_EQ(integerValue(text), value) << text.toStdString();
 }
