@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "pdf_service/MessageStream.h"
 #include "support/PDFBuilder.h"
+#include "support/TestFiles.h"
 
 #include <csignal>
-#include <gtest/gtest.h>
 #include <QDeadlineTimer>
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -22,7 +21,7 @@ constexpr int Patience = 60'000; // ms, far more than anything here takes
 
 struct Outcome {
     int exitCode = -1;
-    QList<QByteArray> answers;
+    QList<QJsonObject> answers;
     QByteArray errors;
 };
 
@@ -33,19 +32,15 @@ Outcome run(const QStringList& arguments, const QByteArray& input)
     process.write(input);
     process.closeWriteChannel();
     EXPECT_TRUE(process.waitForFinished(Patience));
-    QList<QByteArray> answers = process.readAllStandardOutput().split('\n');
-    EXPECT_EQ(answers.takeLast(), QByteArray()); // what follows the last line end
+    QList<QJsonObject> answers;
+    while (process.canReadLine())
+        answers += QJsonDocument::fromJson(process.readLine()).object();
     return { process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1, answers,
         process.readAllStandardError() };
 }
 
-QJsonObject object(const QByteArray& line)
-{
-    return QJsonDocument::fromJson(line).object();
-}
-
 // A page that draws a form ten times, which draws another one ten times, and so on.
-QByteArray endlessPDF()
+PDFBuilder endlessPDF()
 {
     PDFBuilder pdf;
     int form = pdf.addStream("/Type /XObject /Subtype /Form /BBox [0 0 9 9]", "0 0 9 9 re f");
@@ -56,57 +51,38 @@ QByteArray endlessPDF()
             QByteArray("/F Do ").repeated(10));
     pdf.addPage({ .content = "/F Do",
         .resources = "/XObject << /F " + PDFBuilder::reference(form) + " >>" });
-    return pdf.build();
+    return pdf;
 }
 
 class PDFServiceProgram : public testing::Test {
 protected:
-    QByteArray openRequest(const QByteArray& pdf)
+    QByteArray openAndRender(const PDFBuilder& pdf) const
     {
-        QFile file(iFolder.filePath(u"document.pdf"_s));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(pdf);
-        return R"({"id":1,"op":"open","path":")" + file.fileName().toUtf8() + "\"}\n";
-    }
-
-    QByteArray renderRequest() const
-    {
-        return R"({"id":2,"op":"render","page":0,"scale":1,"quality":30,"chroma":"420","maxBytes":1e9,"path":")"
-            + iFolder.filePath(u"page.jpg"_s).toUtf8() + "\"}\n";
+        const QString path = writeTestFile(iFolder.filePath(u"document.pdf"_s), pdf.build());
+        return R"({"id":1,"op":"open","path":")" + path.toUtf8() + "\"}\n"
+            + R"({"id":2,"op":"render","page":0,"scale":1,"quality":30,"chroma":"420",)"
+            + R"("maxBytes":1e9,"path":")" + iFolder.filePath(u"page.jpg"_s).toUtf8() + "\"}\n";
     }
 
     QTemporaryDir iFolder;
 };
 
-bool isAlive(qint64 process)
-{
-    return ::kill(static_cast<pid_t>(process), 0) == 0;
-}
-
 } // namespace
 
-TEST_F(PDFServiceProgram, AnswersEachLineAndEndsWithItsInput)
+TEST_F(PDFServiceProgram, AnswersEachLineButOneTooLongAndEndsWithItsInput)
 {
     PDFBuilder pdf;
     pdf.addPage({ .content = "/Nonsense gs (unbalanced" });
-    const Outcome result = run({}, openRequest(pdf.build()) + "\n" + renderRequest());
+    const QByteArray tooLong(service::MessageStream::LongestRequest * 3, 'x');
+    const Outcome result = run({}, openAndRender(pdf) + "\n" + tooLong + "\n{\"id\":5}\n");
     EXPECT_EQ(result.exitCode, 0);
-    ASSERT_EQ(result.answers.size(), 3);
-    EXPECT_EQ(object(result.answers[0]).value(u"pages").toInt(), 1);
-    EXPECT_EQ(object(result.answers[1]).value(u"error").toString(), u"request"_s);
-    EXPECT_EQ(object(result.answers[2]).value(u"id").toInt(), 2);
     EXPECT_EQ(result.errors, QByteArray());
-}
-
-TEST_F(PDFServiceProgram, RefusesALineThatIsTooLongAndReadsTheNext)
-{
-    const QByteArray tooLong = QByteArray(service::MessageStream::LongestRequest * 3, 'x') + '\n';
-    const Outcome result = run({}, tooLong + "{\"id\":2}\n");
-    EXPECT_EQ(result.exitCode, 0);
-    ASSERT_EQ(result.answers.size(), 2);
-    EXPECT_EQ(object(result.answers[0]).value(u"error").toString(), u"request"_s);
-    EXPECT_TRUE(object(result.answers[0]).value(u"id").isNull());
-    EXPECT_EQ(object(result.answers[1]).value(u"id").toInt(), 2);
+    ASSERT_EQ(result.answers.size(), 5);
+    EXPECT_EQ(result.answers[0].value(u"pages").toInt(), 1);
+    EXPECT_EQ(result.answers[1].value(u"id").toInt(), 2);
+    EXPECT_EQ(result.answers[2].value(u"error").toString(), u"request"_s);
+    EXPECT_EQ(result.answers[3].value(u"error").toString(), u"request"_s);
+    EXPECT_EQ(result.answers[4].value(u"id").toInt(), 5);
 }
 
 TEST_F(PDFServiceProgram, RefusesArgumentsThatItDoesNotKnow)
@@ -121,29 +97,26 @@ TEST_F(PDFServiceProgram, RefusesArgumentsThatItDoesNotKnow)
 
 TEST_F(PDFServiceProgram, EndsItselfWhenAPageTakesTooMuchTime)
 {
-    const Outcome result
-        = run({ u"--page-seconds"_s, u"1"_s }, openRequest(endlessPDF()) + renderRequest());
+    const Outcome result = run({ u"--page-seconds"_s, u"1"_s }, openAndRender(endlessPDF()));
     EXPECT_EQ(result.exitCode, 124);
     EXPECT_EQ(result.answers.size(), 1);
 }
 
 TEST_F(PDFServiceProgram, EndsItselfWhenItsParentDies)
 {
-    QFile requests(iFolder.filePath(u"requests"_s));
-    ASSERT_TRUE(requests.open(QIODevice::WriteOnly));
-    requests.write(openRequest(endlessPDF()) + renderRequest());
-    requests.close();
+    const QString requests
+        = writeTestFile(iFolder.filePath(u"requests"_s), openAndRender(endlessPDF()));
     QProcess parent;
     parent.start(u"sh"_s,
         { u"-c"_s, u"\"$0\" --page-seconds 600 <\"$1\" >/dev/null & sleep 1; echo $!"_s, Program,
-            requests.fileName() });
+            requests });
     ASSERT_TRUE(parent.waitForFinished(Patience));
-    const qint64 worker = parent.readAllStandardOutput().trimmed().toLongLong();
+    const pid_t worker = parent.readAllStandardOutput().trimmed().toInt();
     ASSERT_GT(worker, 0);
     const QDeadlineTimer deadline(Patience);
-    while (isAlive(worker) && !deadline.hasExpired())
+    while (::kill(worker, 0) == 0 && !deadline.hasExpired())
         QThread::msleep(50);
-    EXPECT_FALSE(isAlive(worker));
+    EXPECT_NE(::kill(worker, 0), 0);
 }
 
 #ifndef __SANITIZE_ADDRESS__
@@ -151,11 +124,11 @@ TEST_F(PDFServiceProgram, KeepsWithinItsMemoryAndLivesOn)
 {
     PDFBuilder pdf;
     pdf.addPage({ .mediaBox = { 0, 0, 20'000, 20'000 }, .content = "1 0 0 rg 0 0 9 9 re f" });
-    const Outcome result = run({ u"--memory-limit"_s, u"300"_s },
-        openRequest(pdf.build()) + renderRequest() + "{\"id\":3}\n");
+    const Outcome result
+        = run({ u"--memory-limit"_s, u"300"_s }, openAndRender(pdf) + "{\"id\":3}\n");
     EXPECT_EQ(result.exitCode, 0);
     ASSERT_EQ(result.answers.size(), 3);
-    const QJsonObject drawn = object(result.answers[1]);
+    const QJsonObject drawn = result.answers[1];
     EXPECT_EQ(drawn.value(u"error").toString(), QString());
     EXPECT_LT(drawn.value(u"scale").toDouble(), 0.5);
 }

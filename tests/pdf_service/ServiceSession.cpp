@@ -1,24 +1,14 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "pdf_service/ServiceSession.h"
 
-#include <QFile>
 #include <QJsonDocument>
 
 using namespace Qt::StringLiterals;
 
 namespace leafcast::service {
 
-QString ServiceSession::write(const QString& name, const QByteArray& bytes) const
-{
-    QFile file(path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("a test file can't be written");
-    return path(name);
-}
-
 QJsonObject ServiceSession::ask(const QString& operation, QJsonObject fields)
 {
-    fields.insert(u"id"_s, 7);
     fields.insert(u"op"_s, operation);
     return askRaw(QJsonDocument(fields).toJson(QJsonDocument::Compact));
 }
@@ -28,9 +18,9 @@ QJsonObject ServiceSession::askRaw(const QByteArray& line)
     return QJsonDocument::fromJson(iHandler.answer({ line, false })).object();
 }
 
-QJsonObject ServiceSession::open(const QByteArray& pdf, const QString& password)
+QJsonObject ServiceSession::open(const QByteArray& pdf)
 {
-    return openFile(write(u"document.pdf"_s, pdf), password);
+    return openFile(writeTestFile(path(u"document.pdf"_s), pdf));
 }
 
 QJsonObject ServiceSession::openFile(const QString& path, const QString& password)
@@ -46,6 +36,24 @@ QJsonObject ServiceSession::render(int page, double scale, const QJsonObject& fi
     for (auto field = fields.begin(); field != fields.end(); ++field)
         request.insert(field.key(), field.value());
     return ask(u"render"_s, request);
+}
+
+DecodedJPEG ServiceSession::picture() const
+{
+    return DecodedJPEG::decode(readTestFile(path(u"page.jpg"_s)));
+}
+
+QString errorOf(const QJsonObject& answer)
+{
+    return answer.value(u"error").toString();
+}
+
+PDFBuilder builderWithPages(int count)
+{
+    PDFBuilder pdf;
+    for (int i = 0; i < count; ++i)
+        pdf.addPage();
+    return pdf;
 }
 
 } // namespace leafcast::service

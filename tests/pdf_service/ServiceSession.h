@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #pragma once
 
-#include "pdf_service/DecodedJPEG.h"
+#include "pdf_service/LibraryJPEG.h"
 #include "pdf_service/RequestHandler.h"
+#include "support/PDFBuilder.h"
+#include "support/TestFiles.h"
 
+#include <QJsonArray>
 #include <QJsonObject>
-#include <QString>
 #include <QTemporaryDir>
 
 namespace leafcast::service {
@@ -13,25 +15,32 @@ namespace leafcast::service {
 /// Asks the service, without a process in between. Files lie in a folder of its own.
 class ServiceSession {
 public:
+    ServiceSession() = default;
+    explicit ServiceSession(const PDFBuilder& pdf) { open(pdf.build()); }
+
     QString path(const QString& name) const { return iFolder.filePath(name); }
-    QString write(const QString& name, const QByteArray& bytes) const;
 
     /// With "op" and the fields given, such as {{"page", 0}}.
     QJsonObject ask(const QString& operation, QJsonObject fields = {});
     /// As it stands.
     QJsonObject askRaw(const QByteArray& line);
 
-    QJsonObject open(const QByteArray& pdf, const QString& password = {});
+    QJsonObject open(const QByteArray& pdf);
     QJsonObject openFile(const QString& path, const QString& password = {});
 
     /// Draws with quality 95, 4:4:4; more fields replace these.
-    QJsonObject render(int page, double scale, const QJsonObject& fields = {});
+    QJsonObject render(int page = 0, double scale = 1, const QJsonObject& fields = {});
     /// What the last render() wrote.
-    DecodedJPEG picture() const { return DecodedJPEG::read(path(QStringLiteral("page.jpg"))); }
+    DecodedJPEG picture() const;
 
 private:
     QTemporaryDir iFolder;
     RequestHandler iHandler{ Limits{} };
 };
+
+/// Empty when all went well.
+QString errorOf(const QJsonObject& answer);
+
+PDFBuilder builderWithPages(int count);
 
 } // namespace leafcast::service

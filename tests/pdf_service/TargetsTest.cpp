@@ -1,9 +1,5 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "pdf_service/ServiceSession.h"
-#include "support/PDFBuilder.h"
-
-#include <gtest/gtest.h>
-#include <QJsonArray>
 
 using namespace leafcast;
 using namespace leafcast::service;
@@ -11,107 +7,89 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-PDFBuilder builderWithPages(int count)
+QJsonArray annotationsOf(const PDFBuilder& pdf)
 {
-    PDFBuilder pdf;
-    for (int i = 0; i < count; ++i)
-        pdf.addPage();
-    return pdf;
-}
-
-QJsonArray annotationsOf(const PDFBuilder& pdf, int page = 0)
-{
-    ServiceSession session;
-    session.open(pdf.build());
-    return session.ask(u"annotations"_s, { { u"page"_s, page } }).value(u"annotations").toArray();
+    return ServiceSession(pdf)
+        .ask(u"annotations"_s, { { u"page"_s, 0 } })
+        .value(u"annotations")
+        .toArray();
 }
 
 QJsonArray outlineOf(const PDFBuilder& pdf)
 {
-    ServiceSession session;
-    session.open(pdf.build());
-    return session.ask(u"outline"_s).value(u"entries").toArray();
+    return ServiceSession(pdf).ask(u"outline"_s).value(u"entries").toArray();
 }
 
+const QJsonValue Nowhere(QJsonValue::Undefined);
+
+// The entries of a link and where it leads: an address, a page or nowhere.
 struct LinkCase {
-    const char* entries; // of the link; 7 0 R is the second page's object
-    const char* url; // null: none
-    std::optional<int> page;
+    const char* entries;
+    QJsonValue target;
 };
+
+void expectTargets(PDFBuilder pdf, const std::vector<LinkCase>& cases)
+{
+    for (const LinkCase& link : cases)
+        pdf.addAnnotation(0, QByteArray("/Subtype /Link /Rect [30.5 40 10 20] ") + link.entries);
+    const QJsonArray list = annotationsOf(pdf);
+    for (size_t i = 0; i < cases.size(); ++i) {
+        const auto& [entries, target] = cases[i];
+        const QJsonObject found = list.at(static_cast<qsizetype>(i)).toObject();
+        EXPECT_EQ(found.value(u"type"), u"Link"_s) << entries;
+        EXPECT_EQ(found.value(u"bounds"), QJsonArray({ 10, 20, 20.5, 20 })) << entries;
+        EXPECT_EQ(found.value(u"url"), target.isString() ? target : Nowhere) << entries;
+        EXPECT_EQ(found.value(u"page"), target.isDouble() ? target : Nowhere) << entries;
+    }
+}
 
 } // namespace
 
-TEST(Annotations, HaveTypeAndBoundsOfTheFile)
+TEST(Annotations, LeadToTheAddressesOfTheirActions)
 {
-    PDFBuilder pdf;
-    pdf.addPage({ .cropBox = PDFBuilder::Box{ 100, 100, 400, 400 }, .rotation = 90 });
-    pdf.addAnnotation(0, "/Subtype /Text /Rect [30.5 40 10 20]");
-    pdf.addAnnotation(0, "/Subtype /Widget /FT /Tx /T (f) /Rect [0 0 5 5]");
-    pdf.addAnnotation(0, "/Subtype /Link /Rect [1 2]");
-    const QJsonArray list = annotationsOf(pdf);
-    ASSERT_EQ(list.size(), 3);
-    EXPECT_EQ(list.at(0).toObject().value(u"type").toString(), u"Text"_s);
-    EXPECT_EQ(list.at(0).toObject().value(u"bounds").toArray(), QJsonArray({ 10, 20, 20.5, 20 }));
-    EXPECT_EQ(list.at(1).toObject().value(u"type").toString(), u"Widget"_s);
-    EXPECT_FALSE(list.at(2).toObject().contains(u"url"));
-    EXPECT_FALSE(list.at(2).toObject().contains(u"page"));
+    expectTargets(builderWithPages(3),
+        {
+            { "/A << /S /URI /URI (https://example.org/a?b=1#c) >>",
+                u"https://example.org/a?b=1#c"_s },
+            { "/A << /S /URI /URI (mailto:a@example.org) >>", u"mailto:a@example.org"_s },
+            { "/A << /S /URI /URI (www.example.org) >>", u"http://www.example.org"_s },
+            { "/A << /S /URI /URI (http://example.org/\\303\\251) >>", u"http://example.org/é"_s },
+            { "/A << /S /GoToR /F (other.pdf) /D [1 /Fit] >>", -1 },
+            { "/A << /S /GoToR /F << /UF (http://example.org/x.pdf) >> /D [1 /Fit] >>",
+                u"http://example.org/x.pdf"_s },
+            { "/A << /S /Launch /F (https://example.org) >>", u"https://example.org"_s },
+            { "/A << /S /Launch /F (C:\\\\calc.exe) >>", Nowhere },
+            { "/A << /S /JavaScript /JS (app.alert\\(1\\)) >>", Nowhere },
+        });
+    PDFBuilder pdf = builderWithPages(1);
+    pdf.addCatalogueEntries("/URI << /Base (https://example.org/books/index.html) >>");
+    expectTargets(pdf,
+        {
+            { "/A << /S /URI /URI (../shop?q=1) >>", u"https://example.org/shop?q=1"_s },
+            { "/A << /S /URI /URI (ftp://elsewhere.org/x) >>", u"ftp://elsewhere.org/x"_s },
+        });
 }
 
-TEST(Annotations, LeadWhereTheirActionsAndDestinationsSay)
+TEST(Annotations, LeadToThePagesOfTheirDestinations)
 {
-    const LinkCase cases[] = {
-        { "/A << /S /URI /URI (https://example.org/a?b=1#c) >>", "https://example.org/a?b=1#c",
-            {} },
-        { "/A << /S /URI /URI (mailto:a@example.org) >>", "mailto:a@example.org", {} },
-        { "/A << /S /URI /URI (www.example.org) >>", "http://www.example.org", {} },
-        { "/A << /S /URI /URI (http://example.org/\\303\\251) >>", "http://example.org/é", {} },
-        { "/Dest [6 0 R /XYZ 0 0 0]", nullptr, 1 },
-        { "/Dest [2 /Fit]", nullptr, 2 },
-        { "/Dest [99 /Fit]", nullptr, -1 },
-        { "/Dest [3 0 R /Fit]", nullptr, -1 }, // the font
-        { "/Dest (tree)", nullptr, 2 },
-        { "/Dest /old", nullptr, 1 },
-        { "/Dest (nowhere)", nullptr, -1 },
-        { "/A << /S /GoTo /D (tree) >>", nullptr, 2 },
-        { "/A << /S /GoTo /D [6 0 R /Fit] >>", nullptr, 1 },
-        { "/A << /S /GoTo >>", nullptr, -1 },
-        { "/A << /S /GoToR /F (other.pdf) /D [1 /Fit] >>", nullptr, -1 },
-        { "/A << /S /GoToR /F << /UF (http://example.org/x.pdf) >> /D [1 /Fit] >>",
-            "http://example.org/x.pdf", {} },
-        { "/A << /S /Launch /F (https://example.org) >>", "https://example.org", {} },
-        { "/A << /S /Launch /F (C:\\\\calc.exe) >>", nullptr, {} },
-        { "/A << /S /JavaScript /JS (app.alert\\(1\\)) >>", nullptr, {} },
-        { "/A << /S /Named /N /NextPage >>", nullptr, 1 },
-        { "/A << /S /Named /N /LastPage >>", nullptr, 2 },
-    };
     PDFBuilder pdf = builderWithPages(3);
     ASSERT_EQ(pdf.pageObject(1), 6);
     pdf.addNamedDestination("tree", 2);
     pdf.addCatalogueEntries("/Dests << /old << /D [6 0 R /Fit] >> /loop /loop >>");
-    for (const LinkCase& link : cases)
-        pdf.addAnnotation(0, QByteArray("/Subtype /Link /Rect [0 0 9 9] ") + link.entries);
-    const QJsonArray list = annotationsOf(pdf);
-    ASSERT_EQ(list.size(), static_cast<qsizetype>(std::size(cases)));
-    for (qsizetype i = 0; i < list.size(); ++i) {
-        const LinkCase& expected = cases[i];
-        const QJsonObject found = list.at(i).toObject();
-        EXPECT_EQ(found.contains(u"url"), expected.url != nullptr) << expected.entries;
-        EXPECT_EQ(found.value(u"url").toString(), QString::fromUtf8(expected.url))
-            << expected.entries;
-        EXPECT_EQ(found.contains(u"page"), expected.page.has_value()) << expected.entries;
-        EXPECT_EQ(found.value(u"page").toInt(-2), expected.page.value_or(-2)) << expected.entries;
-    }
-}
-
-TEST(Annotations, ResolveRelativeAddressesAgainstTheBaseOfTheDocument)
-{
-    PDFBuilder pdf = builderWithPages(1);
-    pdf.addCatalogueEntries("/URI << /Base (https://example.org/books/index.html) >>");
-    pdf.addURLLink(0, { 0, 0, 9, 9 }, "../shop?q=1");
-    pdf.addURLLink(0, { 0, 0, 9, 9 }, "ftp://elsewhere.org/x");
-    const QJsonArray list = annotationsOf(pdf);
-    EXPECT_EQ(list.at(0).toObject().value(u"url").toString(), u"https://example.org/shop?q=1"_s);
-    EXPECT_EQ(list.at(1).toObject().value(u"url").toString(), u"ftp://elsewhere.org/x"_s);
+    expectTargets(pdf,
+        {
+            { "/Dest [6 0 R /XYZ 0 0 0]", 1 },
+            { "/Dest [2 /Fit]", 2 },
+            { "/Dest [99 /Fit]", -1 },
+            { "/Dest [3 0 R /Fit]", -1 }, // the font
+            { "/Dest (tree)", 2 },
+            { "/Dest /old", 1 },
+            { "/Dest (nowhere)", -1 },
+            { "/A << /S /GoTo /D (tree) >>", 2 },
+            { "/A << /S /GoTo >>", -1 },
+            { "/A << /S /Named /N /NextPage >>", 1 },
+            { "/A << /S /Named /N /LastPage >>", 2 },
+        });
 }
 
 TEST(Annotations, FindNamesInATreeThatClosesToALoop)
@@ -122,37 +100,24 @@ TEST(Annotations, FindNamesInATreeThatClosesToALoop)
         "<< /Kids [" + PDFBuilder::reference(node)
             + "] /Names [(here) [6 0 R /Fit] (loop) (loop)] >>");
     pdf.addCatalogueEntries("/Names << /Dests " + PDFBuilder::reference(node) + " >>");
-    pdf.addNamedLink(0, { 0, 0, 9, 9 }, "here");
-    pdf.addNamedLink(0, { 0, 0, 9, 9 }, "loop");
-    const QJsonArray list = annotationsOf(pdf);
-    EXPECT_EQ(list.at(0).toObject().value(u"page").toInt(-2), 1);
-    EXPECT_EQ(list.at(1).toObject().value(u"page").toInt(-2), -1);
+    expectTargets(pdf, { { "/Dest (here)", 1 }, { "/Dest (loop)", -1 } });
 }
 
 TEST(Outline, IsGivenInReadingOrderWithLevels)
 {
     PDFBuilder pdf = builderWithPages(3);
-    pdf.setOutline({ { .label = u"One – 一"_s,
-                         .target = pdf.explicitDestination(0),
-                         .children = { { .label = u"One A"_s, .target = "/Dest (none)" },
-                             { .label = u"One B"_s,
-                                 .target = "/A << /S /URI /URI (http://example.org) >>" } } },
-        { .label = u"Two"_s,
-            .target
-            = "/A << /S /GoTo /D [" + PDFBuilder::reference(pdf.pageObject(2)) + " /Fit] >>" },
-        { .label = {} } });
-    const QJsonArray entries = outlineOf(pdf);
+    const QByteArray web = "/A << /S /URI /URI (http://example.org) >>";
+    const QByteArray last
+        = "/A << /S /GoTo /D [" + PDFBuilder::reference(pdf.pageObject(2)) + " /Fit] >>";
+    pdf.setOutline({ { u"One – 一"_s, pdf.explicitDestination(0),
+                         { { u"One A"_s, "/Dest (none)", {} }, { u"One B"_s, web, {} } } },
+        { u"Two"_s, last, {} }, { {}, {}, {} } });
     const auto entry = [](const QString& label, int level, int page) {
         return QJsonObject{ { u"label"_s, label }, { u"level"_s, level }, { u"page"_s, page } };
     };
-    EXPECT_EQ(entries,
+    EXPECT_EQ(outlineOf(pdf),
         QJsonArray({ entry(u"One – 一"_s, 1, 0), entry(u"One A"_s, 2, -1), entry(u"One B"_s, 2, -1),
             entry(u"Two"_s, 1, 2), entry(QString(), 1, -1) }));
-}
-
-TEST(Outline, IsEmptyWhenThereIsNone)
-{
-    EXPECT_TRUE(outlineOf(builderWithPages(1)).isEmpty());
 }
 
 TEST(Outline, EndsWhereItClosesToALoop)
