@@ -9,9 +9,10 @@
 #include "publish/FlashBookOutput.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <optional>
 #include <QDir>
 #include <QFileInfo>
-#include <QStorageInfo>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -36,6 +37,14 @@ namespace {
         while (!FileSteps::exists(path) && path != QFileInfo(path).path())
             path = QFileInfo(path).path();
         return path;
+    }
+
+    /// None when the system can't tell, as it happens in containers.
+    std::optional<qint64> freeBytes(const QString& folder)
+    {
+        std::error_code error;
+        const auto space = std::filesystem::space(QFile::encodeName(folder).toStdString(), error);
+        return error ? std::nullopt : std::optional(static_cast<qint64>(space.available));
     }
 
     bool isInside(const QString& path, const QString& folder)
@@ -126,10 +135,10 @@ void OutputPlace::requireRoomFor(const FlashBookOutput& writer) const
         largest = std::max(largest, size);
     }
     needed = std::max(needed, roomForTheRest) + largest;
-    const qint64 available = QStorageInfo(nearestExisting(iFolder)).bytesAvailable();
-    if (needed > available)
+    const std::optional<qint64> available = freeBytes(nearestExisting(iFolder));
+    if (available && needed > *available)
         refuse(u"there is no room for the book in %1: it needs %2 more, and the disk has %3 left"_s
-                   .arg(iFolder, dataSize(needed), dataSize(available)));
+                   .arg(iFolder, dataSize(needed), dataSize(*available)));
 }
 
 void OutputPlace::makeFolder() const

@@ -13,9 +13,15 @@ namespace {
     // around a page on white. Below the lowest that is used here there are more.
     constexpr std::array greyWhites{ 33, 34, 38, 41, 42, 43, 44, 45 };
 
-    bool turnsWhiteGrey(int quality)
+    // A soft gradient, at 36 a grey scan too, comes out smaller at these than at the quality below, as
+    // the tables' rounding has it. Bytes are not to fall as the factor grows.
+    constexpr std::array shrinkingSteps{ 36, 37 };
+    constexpr int bestWithHalvedChroma = 60; // 61 to 63 are smaller again
+
+    bool isSkipped(int quality)
     {
-        return std::ranges::binary_search(greyWhites, quality);
+        return std::ranges::binary_search(greyWhites, quality)
+            || std::ranges::binary_search(shrinkingSteps, quality);
     }
 
 } // namespace
@@ -24,9 +30,11 @@ JPEGSettings jpegSettings(double compressionFactor)
 {
     const double factor = std::clamp(compressionFactor, 0.0, 1.0);
     int quality = static_cast<int>(std::lround(30 + 65 * factor));
-    while (turnsWhiteGrey(quality))
+    while (isSkipped(quality))
         ++quality;
-    return { .quality = quality, .fullChroma = factor >= 0.5 };
+    const bool fullChroma = factor >= 0.5;
+    return { .quality = fullChroma ? quality : std::min(quality, bestWithHalvedChroma),
+        .fullChroma = fullChroma };
 }
 
 } // namespace leafcast

@@ -136,8 +136,8 @@ TEST_F(PDFImageRepTest, AFolderThatCannotBeWrittenFailsThePageAndSaysSo)
 TEST(JPEGSettings, StepOverQualitiesThatTurnWhiteGrey)
 {
     for (const auto& [factor, quality] : std::initializer_list<std::pair<double, int>>{
-             { -3.0, 30 }, { 0.05, 35 }, { 0.07, 35 }, { 0.12, 39 }, { 0.17, 46 }, { 0.24, 46 },
-             { 0.49, 62 }, { 0.5, 63 }, { 1.0, 95 }, { 7.0, 95 } }) {
+             { -3.0, 30 }, { 0.05, 35 }, { 0.07, 35 }, { 0.09, 39 }, { 0.17, 46 }, { 0.24, 46 },
+             { 0.49, 60 }, { 0.5, 63 }, { 1.0, 95 }, { 7.0, 95 } }) {
         EXPECT_EQ(jpegSettings(factor).quality, quality) << factor;
         EXPECT_EQ(jpegSettings(factor).fullChroma, factor >= 0.5) << factor;
     }
