@@ -34,17 +34,7 @@ TEST_F(FlashBookOutputTest, WritesExactlyTheFilesOfABookAndKeepsEarlierPagesAndS
         "files/page/9.jpg iPadPreview index.html javascript javascript/jquery-1.7.2.min.js "
         "javascript/main.js style style/page.css");
     EXPECT_EQ(bookFile(u"iPadPreview"_s), "old");
-    EXPECT_EQ(bookFile(u"index.html"_s), "${index.title}\n");
     EXPECT_TRUE(log.lines().isEmpty());
-}
-
-TEST_F(FlashBookOutputTest, GoesOnWhereAFileIsInTheWay)
-{
-    resources.addFile(u"book/files"_s, "in the way");
-    writeBook();
-    EXPECT_EQ(bookFile(u"files"_s), "in the way");
-    EXPECT_NE(bookFile(u"javascript/main.js"_s), "none");
-    EXPECT_FALSE(log.lines().isEmpty());
 }
 
 TEST_F(FlashBookOutputTest, CopiesChangedPicturesByPageNumberAndRemovesThoseOfPagesWithoutOne)

@@ -34,21 +34,3 @@ TEST(FlashTemplateProperty, TakesTheFirstChildOfEachNameAndItsChildrenInOrder)
     EXPECT_EQ(group.childProperties()[1]->key(), u"b");
     EXPECT_EQ(group.childProperties()[1]->propertyType(), pt_bool);
 }
-
-TEST(FlashTemplateProperty, ThrowsForAMissingChildAndNamesItAndItsLine)
-{
-    for (const QByteArray name :
-        { "key", "title", "desc", "value", "valueSource", "defalutValue" }) {
-        QByteArray xml
-            = "<childProperties>\n<property>" + texts("k") + "</property></childProperties>";
-        xml.replace("<" + name + ">", "\n<other>").replace("</" + name + ">", "</other>");
-        try {
-            FlashTemplateProperty().loadFromNode(*XMLParser().parse(
-                "<property>" + texts("g") + xml + "</property>", XMLParser::Mode::Strict));
-            ADD_FAILURE() << name.constData();
-        } catch (const MalformedTemplate& error) {
-            EXPECT_TRUE(error.reason().contains(u'"' + QString::fromLatin1(name) + u'"'));
-            EXPECT_EQ(error.line(), 2);
-        }
-    }
-}

@@ -55,10 +55,11 @@ TEST_F(FlashTemplateTest, HasAnEmptyTreeUnderTheNewNameAfterABrokenDescription)
     EXPECT_EQ(outcome.line, 1);
     resources.addTemplate(u"bad"_s, property("pt_text", "k", ""));
     const QByteArray whole = readTestFile(resources.path(badFile));
-    for (const QByteArray name : { "info", "htmlPath", "swfPath", "defaultStyle",
-             "macAppFilesFolder", "mobileTmplFilesPath", "properties", "key" }) {
+    for (const QByteArray name :
+        { "info", "htmlPath", "swfPath", "defaultStyle", "macAppFilesFolder", "mobileTmplFilesPath",
+            "properties", "key", "title", "desc", "value", "valueSource", "defalutValue" }) {
         QByteArray xml = whole;
-        xml.replace("<" + name + ">", "<other>").replace("</" + name + ">", "</other>");
+        xml.replace("<" + name, "<other").replace("</" + name, "</other");
         resources.addFile(badFile, xml);
         EXPECT_THROW(flashTemplate.loadTemplate(u"bad"_s), MalformedTemplate) << name.constData();
         EXPECT_TRUE(flashTemplate.properties().empty());

@@ -11,6 +11,12 @@ using namespace leafcast;
 
 namespace {
 
+struct Case {
+    FlashTemplatePropertyType type;
+    QString typed;
+    QString expected;
+};
+
 PropertyValueCheck check(FlashTemplatePropertyType type, const QString& typed)
 {
     FlashTemplateProperty property;
@@ -21,13 +27,8 @@ PropertyValueCheck check(FlashTemplatePropertyType type, const QString& typed)
 
 } // namespace
 
-TEST(PropertyValueCheck, StoresWhatEachTypeExpectsOrSaysIt)
+TEST(PropertyValueCheck, StoresWhatEachTypeExpects)
 {
-    struct Case {
-        FlashTemplatePropertyType type;
-        QString typed;
-        QString stored;
-    };
     const Case cases[] = { { pt_number, u" -12.50 "_s, u"-12.50"_s },
         { pt_number, u"1e3"_s, u"1e3"_s }, { pt_color, u"#1A2b3C"_s, u"0x1a2b3c"_s },
         { pt_color, u"#F0a"_s, u"0xff00aa"_s }, { pt_bool, u" on"_s, u"YES"_s },
@@ -38,6 +39,10 @@ TEST(PropertyValueCheck, StoresWhatEachTypeExpectsOrSaysIt)
         { pt_text, u" as \"typed\""_s, u" as \"typed\""_s } };
     for (const auto& [type, typed, stored] : cases)
         EXPECT_EQ(check(type, typed).value, stored) << typed.toStdString();
+}
+
+TEST(PropertyValueCheck, SaysWhatATypeExpects)
+{
     const Case refused[] = { { pt_number, u"|12px|1,5|nan|1e999"_s, u"it must be a number"_s },
         { pt_color, u"|red|1a2b3c|#1a2b3c4d|0xfff|#ggg"_s,
             u"it must be a colour such as #1a2b3c"_s },
