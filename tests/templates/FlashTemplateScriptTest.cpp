@@ -15,7 +15,6 @@ TEST(FlashTemplateScript, WritesEachTypeAsThePlayerReadsItAndAGroupBeforeItsMemb
         { "pt_text", "quote", "a\"\\b", "quote:\"a\"\\b\"," },
         { "pt_color", "ink", "0x1a2b3c", "ink:\"#1a2b3c\"," },
         { "pt_color", "ink", "0X1a2b3c", "ink:\"0X1a2b3c\"," },
-        { "pt_text", "ink", "0x1a2b3c", "ink:\"0x1a2b3c\"," },
         { "pt_file", "Logo", "/p/a.b/c.PNG", "Logo:\"files/extfile/Logo.PNG\"," },
         { "pt_file", "Logo", "/p/a.b/c", "Logo:\"files/extfile/Logo.\"," },
         { "pt_file", "Logo", "", "Logo:\"\"," },
