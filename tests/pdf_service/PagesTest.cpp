@@ -10,10 +10,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QJsonArray pagesOf(const PDFBuilder& pdf, int first = 0, int count = 100)
+QJsonArray pagesOf(const PDFBuilder& pdf)
 {
     ServiceSession session(pdf);
-    return session.ask(u"pages"_s, { { u"first"_s, first }, { u"count"_s, count } })
+    return session.ask(u"pages"_s, { { u"first"_s, 0 }, { u"count"_s, 100 } })
         .value(u"pages")
         .toArray();
 }
@@ -50,15 +50,8 @@ TEST(Pages, TellBoxesRotationAndUnitOfTheFileOrOfTheNodeAbove)
             + "] /MediaBox [0 0 300 400] /CropBox [10 20 210 320] /Rotate 90 >>"));
         pdf.replaceObject(pdf.pageObject(0), "<< /Type /Page /Parent " + node + entries + " >>");
         pdf.addCatalogueEntries("/Pages " + node);
-        EXPECT_EQ(
-            QJsonDocument(pagesOf(pdf).at(0).toObject()).toJson(QJsonDocument::Compact), expected);
+        EXPECT_EQ(pagesOf(pdf).at(0), QJsonDocument::fromJson(expected).object());
     }
-}
-
-TEST(Pages, AreGivenForTheRangeThatExists)
-{
-    EXPECT_EQ(pagesOf(builderWithPages(5), 3, 10).size(), 2);
-    EXPECT_EQ(pagesOf(builderWithPages(5), 2147483647, 10'000).size(), 0);
 }
 
 TEST(Labels, FollowTheRangesOfTheDocument)

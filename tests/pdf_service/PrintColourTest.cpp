@@ -79,10 +79,9 @@ QByteArray invertedJPEG()
     return encodedByTheLibrary(rows, 100, 1);
 }
 
-QByteArray addPostScriptProfile(PDFBuilder& pdf)
+QByteArray addPostScriptProfile(PDFBuilder& pdf) // of the package libgs-common
 {
     const QByteArray profile = readTestFile(u"/usr/share/color/icc/ghostscript/ps_cmyk.icc"_s);
-    EXPECT_FALSE(profile.isEmpty()) << "the package libgs-common is needed";
     return PDFBuilder::reference(pdf.addStream("/N 4", profile));
 }
 

@@ -23,9 +23,9 @@ QJsonObject ServiceSession::open(const QByteArray& pdf)
     return openFile(writeTestFile(path(u"document.pdf"_s), pdf));
 }
 
-QJsonObject ServiceSession::openFile(const QString& path, const QString& password)
+QJsonObject ServiceSession::openFile(const QString& path)
 {
-    return ask(u"open"_s, { { u"path"_s, path }, { u"password"_s, password } });
+    return ask(u"open"_s, { { u"path"_s, path }, { u"password"_s, QString() } });
 }
 
 QJsonObject ServiceSession::render(int page, double scale, const QJsonObject& fields)

@@ -26,7 +26,7 @@ public:
     QJsonObject askRaw(const QByteArray& line);
 
     QJsonObject open(const QByteArray& pdf);
-    QJsonObject openFile(const QString& path, const QString& password = {});
+    QJsonObject openFile(const QString& path);
 
     /// Draws with quality 95, 4:4:4; more fields replace these.
     QJsonObject render(int page = 0, double scale = 1, const QJsonObject& fields = {});

@@ -7,14 +7,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QJsonArray annotationsOf(const PDFBuilder& pdf)
-{
-    return ServiceSession(pdf)
-        .ask(u"annotations"_s, { { u"page"_s, 0 } })
-        .value(u"annotations")
-        .toArray();
-}
-
 QJsonArray outlineOf(const PDFBuilder& pdf)
 {
     return ServiceSession(pdf).ask(u"outline"_s).value(u"entries").toArray();
@@ -32,10 +24,10 @@ void expectTargets(PDFBuilder pdf, const std::vector<LinkCase>& cases)
 {
     for (const LinkCase& link : cases)
         pdf.addAnnotation(0, QByteArray("/Subtype /Link /Rect [30.5 40 10 20] ") + link.entries);
-    const QJsonArray list = annotationsOf(pdf);
+    const QJsonObject answer = ServiceSession(pdf).ask(u"annotations"_s, { { u"page"_s, 0 } });
     for (size_t i = 0; i < cases.size(); ++i) {
         const auto& [entries, target] = cases[i];
-        const QJsonObject found = list.at(static_cast<qsizetype>(i)).toObject();
+        const QJsonObject found = answer[u"annotations"][static_cast<qsizetype>(i)].toObject();
         EXPECT_EQ(found.value(u"type"), u"Link"_s) << entries;
         EXPECT_EQ(found.value(u"bounds"), QJsonArray({ 10, 20, 20.5, 20 })) << entries;
         EXPECT_EQ(found.value(u"url"), target.isString() ? target : Nowhere) << entries;
@@ -49,9 +41,6 @@ TEST(Annotations, LeadToTheAddressesOfTheirActions)
 {
     expectTargets(builderWithPages(3),
         {
-            { "/A << /S /URI /URI (https://example.org/a?b=1#c) >>",
-                u"https://example.org/a?b=1#c"_s },
-            { "/A << /S /URI /URI (mailto:a@example.org) >>", u"mailto:a@example.org"_s },
             { "/A << /S /URI /URI (www.example.org) >>", u"http://www.example.org"_s },
             { "/A << /S /URI /URI (http://example.org/\\303\\251) >>", u"http://example.org/é"_s },
             { "/A << /S /GoToR /F (other.pdf) /D [1 /Fit] >>", -1 },
@@ -66,7 +55,7 @@ TEST(Annotations, LeadToTheAddressesOfTheirActions)
     expectTargets(pdf,
         {
             { "/A << /S /URI /URI (../shop?q=1) >>", u"https://example.org/shop?q=1"_s },
-            { "/A << /S /URI /URI (ftp://elsewhere.org/x) >>", u"ftp://elsewhere.org/x"_s },
+            { "/A << /S /URI /URI (mailto:a@example.org) >>", u"mailto:a@example.org"_s },
         });
 }
 
