@@ -43,8 +43,7 @@ namespace {
             "--title", options.title, "Title of the book [the PDF's own, else the file's name]");
         command.add_option(
             "--name", options.name, "File name of the page, or of the package [index.html]");
-        command.add_flag(
-            "--app", options.app, "Write a package NAME.app into the folder");
+        command.add_flag("--app", options.app, "Write a package NAME.app into the folder");
     }
 
     void addWorkOptions(PublishOptions& options, CLI::App& command)

@@ -13,8 +13,8 @@ namespace {
     // around a page on white. Below the lowest that is used here there are more.
     constexpr std::array greyWhites{ 33, 34, 38, 41, 42, 43, 44, 45 };
 
-    // A soft gradient, at 36 a grey scan too, comes out smaller at these than at the quality below, as
-    // the tables' rounding has it. Bytes are not to fall as the factor grows.
+    // A soft gradient, at 36 a grey scan too, comes out smaller at these than at the quality below,
+    // as the tables' rounding has it. Bytes are not to fall as the factor grows.
     constexpr std::array shrinkingSteps{ 36, 37 };
     constexpr int bestWithHalvedChroma = 60; // 61 to 63 are smaller again
 
