@@ -3,8 +3,8 @@
 
 #include "FakeServiceTest.h"
 
+#include <numeric>
 #include <QMap>
-#include <ranges>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -16,8 +16,9 @@ protected:
 
     static std::vector<int> firstPages(int count)
     {
-        const auto pages = std::views::iota(0, count);
-        return { pages.begin(), pages.end() };
+        std::vector<int> pages(static_cast<size_t>(count));
+        std::iota(pages.begin(), pages.end(), 0);
+        return pages;
     }
 
     /// Its own picture, or none and a problem that holds the given words.
