@@ -3,13 +3,12 @@
 // of an import. Usage: bare_probe FILE SCALE QUALITY, with one line a page on standard input: page
 // index, components (1 or 3), horizontal sampling of luma (1 or 2). Prints processor seconds.
 
+#include "pdf_service/LibraryJPEG.h"
+
 #include <mupdf/fitz.h>
 
-#include <cstdio>
-#include <cstdlib>
 #include <ctime>
 #include <iostream>
-#include <jpeglib.h>
 
 namespace {
 
@@ -36,35 +35,6 @@ fz_pixmap* draw(fz_context* context, fz_document* document, const PageOrder& ord
     return pixmap;
 }
 
-unsigned long encode(fz_context* context, fz_pixmap* pixmap, int quality, int sampling)
-{
-    jpeg_compress_struct encoder{};
-    jpeg_error_mgr errors{};
-    encoder.err = jpeg_std_error(&errors);
-    jpeg_create_compress(&encoder);
-    unsigned char* bytes = nullptr;
-    unsigned long size = 0;
-    jpeg_mem_dest(&encoder, &bytes, &size);
-    encoder.image_width = unsigned(fz_pixmap_width(context, pixmap));
-    encoder.image_height = unsigned(fz_pixmap_height(context, pixmap));
-    encoder.input_components = fz_pixmap_components(context, pixmap);
-    encoder.in_color_space = encoder.input_components == 1 ? JCS_GRAYSCALE : JCS_RGB;
-    jpeg_set_defaults(&encoder);
-    jpeg_set_quality(&encoder, quality, TRUE);
-    encoder.optimize_coding = TRUE;
-    encoder.comp_info[0].h_samp_factor = encoder.comp_info[0].v_samp_factor = sampling;
-    jpeg_start_compress(&encoder, TRUE);
-    unsigned char* row = fz_pixmap_samples(context, pixmap);
-    while (encoder.next_scanline < encoder.image_height) {
-        jpeg_write_scanlines(&encoder, &row, 1);
-        row += fz_pixmap_stride(context, pixmap);
-    }
-    jpeg_finish_compress(&encoder);
-    jpeg_destroy_compress(&encoder);
-    free(bytes);
-    return size;
-}
-
 int measure(fz_context* context, const char* path, float scale, int quality)
 {
     const double start = processorSeconds();
@@ -72,18 +42,21 @@ int measure(fz_context* context, const char* path, float scale, int quality)
     fz_document* document = fz_open_document(context, path);
     double drawing = 0;
     double encoding = 0;
-    unsigned long bytes = 0;
+    size_t bytes = 0;
     for (PageOrder order; std::cin >> order.index >> order.components >> order.sampling;) {
         const double before = processorSeconds();
         fz_pixmap* pixmap = draw(context, document, order, scale);
         const double drawn = processorSeconds();
-        bytes += encode(context, pixmap, quality, order.sampling);
+        const leafcast::RawPicture picture{ fz_pixmap_samples(context, pixmap),
+            fz_pixmap_width(context, pixmap), fz_pixmap_height(context, pixmap),
+            fz_pixmap_components(context, pixmap) };
+        bytes += encodedByTheLibrary(picture, quality, order.sampling).size();
         fz_drop_pixmap(context, pixmap);
         drawing += drawn - before;
         encoding += processorSeconds() - drawn;
     }
     fz_drop_document(context, document);
-    std::printf("{\"drawing\": %.4f, \"encoding\": %.4f, \"total\": %.4f, \"bytes\": %lu}\n",
+    std::printf("{\"drawing\": %.4f, \"encoding\": %.4f, \"total\": %.4f, \"bytes\": %zu}\n",
         drawing, encoding, processorSeconds() - start, bytes);
     return EXIT_SUCCESS;
 }

@@ -18,7 +18,7 @@ QByteArray rotatedPages(const std::vector<int>& rotations)
 {
     PDFBuilder builder;
     for (const int rotation : rotations)
-        builder.addPage({ .mediaBox = { 20, 10, 600, 700 },
+        builder.addPage({ .mediaBox = { -50, -50, 600, 700 },
             .cropBox = PDFBuilder::Box{ 100, 50, 300, 450 },
             .rotation = rotation,
             .userUnit = 2,
@@ -57,17 +57,17 @@ void expectDark(const QImage& picture, const PageFraction& place)
 TEST(PDFPageGeometry, ARectangleLiesWhereThePictureAndTheTextShowIt)
 {
     const QTemporaryDir folder;
-    const std::vector<int> rotations{ 0, 90, 180, 270, -90, 450 };
+    const std::vector<int> rotations{ 0, 90, 180, 270, -90, 450, 45 };
     const PDFDocument::Source source{ .path
         = writeTestFile(folder.filePath(u"a.pdf"_s), rotatedPages(rotations)) };
     const auto document = PDFDocument::open(source).document;
     ASSERT_TRUE(document);
     PDFImageRep pictures(
         source, { .scale = 1, .jpeg = jpegSettings(1), .workFolder = folder.path() });
-    pictures.plan({ 0, 1, 2, 3, 4, 5 });
-    PDFTextReader texts(source, { 0, 1, 2, 3, 4, 5 });
+    pictures.plan({ 0, 1, 2, 3, 4, 5, 6 });
+    PDFTextReader texts(source, { 0, 1, 2, 3, 4, 5, 6 });
 
-    for (int i = 0; i < 6; ++i) {
+    for (int i = 0; i < 7; ++i) {
         SCOPED_TRACE(rotations.at(static_cast<size_t>(i)));
         const QString path = folder.filePath(u"%1.jpg"_s.arg(i));
         const RenderedPage drawn = pictures.drawPage(i, path);

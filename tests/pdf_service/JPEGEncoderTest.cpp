@@ -2,8 +2,10 @@
 #include "pdf_service/JPEGEncoder.h"
 #include "pdf_service/LibraryJPEG.h"
 
+#include <gtest/gtest.h>
 #include <random>
 
+using namespace leafcast;
 using namespace leafcast::service;
 
 namespace {
@@ -55,8 +57,9 @@ TEST(JPEGEncoder, WritesTheBytesThatTheLibrarysOwnOptimisationWrites)
         for (const int quality : { 1, 30, 95, 100 }) {
             std::vector<unsigned char> output;
             encodeJPEG(bitmap, { quality, chroma }, output);
-            EXPECT_TRUE(QByteArrayView(output.data(), static_cast<qsizetype>(output.size()))
-                == encodedByTheLibrary(bitmap, quality, sampling))
+            const RawPicture picture{ bitmap.pixels.data(), bitmap.width, bitmap.height,
+                bitmap.components };
+            EXPECT_TRUE(output == encodedByTheLibrary(picture, quality, sampling))
                 << bitmap.width << " at quality " << quality;
         }
     }

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
-#include "pdf_service/NumberStyle.h"
 #include "pdf_service/ServiceSession.h"
 
 #include <QJsonDocument>
@@ -44,7 +43,7 @@ TEST(Pages, TellBoxesRotationAndUnitOfTheFileOrOfTheNodeAbove)
             letter + R"("rotation":90,"userUnit":1})" },
     };
     for (const auto& [entries, expected] : cases) {
-        PDFBuilder pdf = builderWithPages(1);
+        PDFBuilder pdf(1);
         const QByteArray node = PDFBuilder::reference(pdf.addObject(
             "<< /Type /Pages /Count 1 /Kids [" + PDFBuilder::reference(pdf.pageObject(0))
             + "] /MediaBox [0 0 300 400] /CropBox [10 20 210 320] /Rotate 90 >>"));
@@ -54,31 +53,33 @@ TEST(Pages, TellBoxesRotationAndUnitOfTheFileOrOfTheNodeAbove)
     }
 }
 
-TEST(Labels, FollowTheRangesOfTheDocument)
+TEST(Labels, FollowTheRangesOfTheDocumentAndStayShort)
 {
-    PDFBuilder pdf = builderWithPages(7);
-    EXPECT_EQ(labelsOf(pdf).join(u""), QString());
-    pdf.setPageLabels("0 << /S /r >> 2 << /S /D /St 9 /P (A-) >> 4 << /S /A /St 26 >>"
-                      " 6 << /P <FEFF00440065006300ED> >>");
-    EXPECT_EQ(labelsOf(pdf),
-        QStringList({ u"i"_s, u"ii"_s, u"A-9"_s, u"A-10"_s, u"Z"_s, u"AA"_s, u"Decí"_s }));
+    EXPECT_EQ(labelsOf(PDFBuilder(1)), QStringList({ QString() }));
+    // The range that begins at each page, or none.
+    const std::pair<QByteArray, QString> cases[] = { { "/S /r", u"i"_s }, { {}, u"ii"_s },
+        { "/S /D /St 9 /P (A-)", u"A-9"_s }, { {}, u"A-10"_s }, { "/S /A /St 26", u"Z"_s },
+        { {}, u"AA"_s }, { "/P <FEFF00440065006300ED>", u"Decí"_s },
+        { "/S /R /St 1994", u"MCMXCIV"_s }, { "/S /r /St 49", u"xlix"_s },
+        { "/S /a /St 53", u"aaa"_s }, { "/S /r /St 0", u"0"_s },
+        { "/S /R /St 2147483647", u"2147483647"_s }, { "/S /a /St 2147483647", u"2147483647"_s } };
+    PDFBuilder pdf(static_cast<int>(std::size(cases)));
+    QByteArray ranges;
+    QStringList expected;
+    for (const auto& [entries, label] : cases) {
+        if (!entries.isEmpty())
+            ranges += QByteArray::number(expected.size()) + " << " + entries + " >> ";
+        expected += label;
+    }
+    pdf.setPageLabels(ranges);
+    EXPECT_EQ(labelsOf(pdf), expected);
 }
 
 TEST(Labels, AreReadFromANestedTreeAndFromPDFDocEncoding)
 {
-    PDFBuilder pdf = builderWithPages(3);
+    PDFBuilder pdf(3);
     const int leaf = pdf.addObject("<< /Nums [1 << /S /D /P (\\204 \\240) >>] >>");
     pdf.addCatalogueEntries("/PageLabels << /Kids [" + PDFBuilder::reference(leaf) + ' '
         + PDFBuilder::reference(leaf) + "] >>");
     EXPECT_EQ(labelsOf(pdf), QStringList({ u"1"_s, u"— €1"_s, u"— €2"_s }));
-}
-
-TEST(NumberStyle, WritesRomanNumbersAndLettersAndStaysShort)
-{
-    EXPECT_EQ(numberInStyle(1994, 'R'), u"MCMXCIV"_s);
-    EXPECT_EQ(numberInStyle(49, 'r'), u"xlix"_s);
-    EXPECT_EQ(numberInStyle(53, 'a'), u"aaa"_s);
-    EXPECT_EQ(numberInStyle(0, 'r'), u"0"_s);
-    EXPECT_LT(numberInStyle(2'147'483'647, 'R').size(), 20);
-    EXPECT_LT(numberInStyle(2'147'483'647, 'a').size(), 20);
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "pdf_service/PrintColour.h"
+#include "pdf_service/LibraryJPEG.h"
 #include "pdf_service/ServiceSession.h"
 
 using namespace leafcast;
@@ -14,8 +15,8 @@ namespace {
 // (-dUsePDFX3Profile) or as ICCBased space, which gave the same.
 struct Ink {
     std::array<double, 4> cmyk;
-    Pixel coated;
-    Pixel postScript;
+    QColor coated;
+    QColor postScript;
 };
 
 const Ink Inks[] = {
@@ -53,30 +54,30 @@ QByteArray forEachInk(const QByteArray& pattern)
     return all;
 }
 
-// Rows of flat patches, one byte an ink.
-Bitmap inkRows(int side)
+// Rows of flat patches, four bytes a pixel.
+std::vector<unsigned char> inkRows(int side)
 {
-    Bitmap result{ Count * side, side, 4 };
+    std::vector<unsigned char> pixels;
     for (int i = 0; i < Count * side * side; ++i) {
         for (const double amount : Inks[i / side % Count].cmyk)
-            result.pixels.push_back(static_cast<unsigned char>(std::lround(amount * 255)));
+            pixels.push_back(static_cast<unsigned char>(std::lround(amount * 255)));
     }
-    return result;
+    return pixels;
 }
 
-QByteArray bytesOf(const Bitmap& bitmap)
+QByteArray bytesOf(const std::vector<unsigned char>& bytes)
 {
-    return QByteArray(reinterpret_cast<const char*>(bitmap.pixels.data()),
-        static_cast<qsizetype>(bitmap.bytes()));
+    return QByteArray(
+        reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size()));
 }
 
 // As Photoshop writes it: inverted values, put right by /Decode.
 QByteArray invertedJPEG()
 {
-    Bitmap rows = inkRows(16);
-    for (unsigned char& value : rows.pixels)
+    std::vector<unsigned char> pixels = inkRows(16);
+    for (unsigned char& value : pixels)
         value = static_cast<unsigned char>(~value);
-    return encodedByTheLibrary(rows, 100, 1);
+    return bytesOf(encodedByTheLibrary({ pixels.data(), Count * 16, 16, 4 }, 100, 1));
 }
 
 QByteArray addPostScriptProfile(PDFBuilder& pdf) // of the package libgs-common
@@ -85,22 +86,21 @@ QByteArray addPostScriptProfile(PDFBuilder& pdf) // of the package libgs-common
     return PDFBuilder::reference(pdf.addStream("/N 4", profile));
 }
 
-void expectPatches(PDFBuilder pdf, PDFBuilder::Page page, Pixel Ink::*expected = &Ink::coated)
+void expectPatches(PDFBuilder pdf, PDFBuilder::Page page, QColor Ink::*expected = &Ink::coated)
 {
     page.mediaBox = { 0, 0, Count * Patch, Patch };
     pdf.addPage(page);
     ServiceSession session(pdf);
     ASSERT_EQ(errorOf(session.render()), QString());
-    const DecodedJPEG picture = session.picture();
+    const QImage picture = session.picture();
     for (int i = 0; i < Count; ++i)
-        EXPECT_TRUE(isNear(picture.at(i * Patch + Patch / 2, Patch / 2), Inks[i].*expected, 2))
-            << "ink " << i;
+        expectColour(picture, { i * Patch + Patch / 2, Patch / 2 }, Inks[i].*expected, 2);
 }
 
 const QByteArray ImageEntries = "/Type /XObject /Subtype /Image /BitsPerComponent 8 /Width ";
 
-void expectPatchesOfImage(
-    PDFBuilder pdf, int side, const QByteArray& space, const QByteArray& data, Pixel Ink::*expected)
+void expectPatchesOfImage(PDFBuilder pdf, int side, const QByteArray& space, const QByteArray& data,
+    QColor Ink::*expected)
 {
     const int image = pdf.addStream(ImageEntries + QByteArray::number(Count * side) + " /Height "
             + QByteArray::number(side) + " /ColorSpace " + space,
@@ -148,7 +148,7 @@ TEST(PrintColour, OfImages)
     const struct {
         int side;
         QByteArray entries, data;
-        Pixel Ink::*expected;
+        QColor Ink::*expected;
     } cases[] = {
         { 4, "/DeviceCMYK", bytesOf(inkRows(4)), &Ink::coated },
         { 100, "/DeviceCMYK", bytesOf(inkRows(100)), &Ink::coated },
@@ -184,11 +184,10 @@ TEST(PrintColour, IsInterpolatedBetweenTheOverprintsWithoutAProfile)
 {
     PrintColour colour{ QByteArray() };
     ASSERT_FALSE(colour.hasProfile());
-    std::array<unsigned char, 3 * Count> screen{};
-    colour.toScreen(inkRows(1).pixels.data(), screen.data(), Count);
-    for (size_t i = 0; i < Count; ++i) // the first seven are overprints themselves
-        EXPECT_TRUE(isNear({ screen[3 * i], screen[3 * i + 1], screen[3 * i + 2] }, Inks[i].coated,
-            i < 7 ? 0 : 40));
+    QImage screen(Count, 1, QImage::Format_RGB888);
+    colour.toScreen(inkRows(1).data(), screen.bits(), Count);
+    for (int i = 0; i < Count; ++i) // the first seven are overprints themselves
+        expectColour(screen, { i, 0 }, Inks[i].coated, i < 7 ? 0 : 40);
 }
 
 TEST(PrintColour, KeepsScreenColoursThatPassThroughAnInkGroup)
@@ -199,5 +198,5 @@ TEST(PrintColour, KeepsScreenColoursThatPassThroughAnInkGroup)
         .entries = "/Group << /S /Transparency /CS /DeviceCMYK >>" });
     ServiceSession session(pdf);
     session.render();
-    EXPECT_TRUE(isNear(session.picture().at(50, 50), { 204, 128, 89 }, 4));
+    expectColour(session.picture(), { 50, 50 }, { 204, 128, 89 }, 4);
 }

@@ -38,22 +38,17 @@ QJsonObject ServiceSession::render(int page, double scale, const QJsonObject& fi
     return ask(u"render"_s, request);
 }
 
-DecodedJPEG ServiceSession::picture() const
-{
-    return DecodedJPEG::decode(readTestFile(path(u"page.jpg"_s)));
-}
-
 QString errorOf(const QJsonObject& answer)
 {
     return answer.value(u"error").toString();
 }
 
-PDFBuilder builderWithPages(int count)
+void expectColour(const QImage& picture, QPoint at, const QColor& expected, int tolerance)
 {
-    PDFBuilder pdf;
-    for (int i = 0; i < count; ++i)
-        pdf.addPage();
-    return pdf;
+    const QColor found = picture.pixelColor(at);
+    for (const auto part : { &QColor::red, &QColor::green, &QColor::blue })
+        EXPECT_NEAR((found.*part)(), (expected.*part)(), tolerance)
+            << found.name().toStdString() << " at " << at.x() << ' ' << at.y();
 }
 
 } // namespace leafcast::service

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #pragma once
 
-#include "pdf_service/LibraryJPEG.h"
 #include "pdf_service/RequestHandler.h"
 #include "support/PDFBuilder.h"
 #include "support/TestFiles.h"
 
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -31,7 +31,7 @@ public:
     /// Draws with quality 95, 4:4:4; more fields replace these.
     QJsonObject render(int page = 0, double scale = 1, const QJsonObject& fields = {});
     /// What the last render() wrote.
-    DecodedJPEG picture() const;
+    QImage picture() const { return QImage(path(QStringLiteral("page.jpg"))); }
 
 private:
     QTemporaryDir iFolder;
@@ -41,6 +41,6 @@ private:
 /// Empty when all went well.
 QString errorOf(const QJsonObject& answer);
 
-PDFBuilder builderWithPages(int count);
+void expectColour(const QImage& picture, QPoint at, const QColor& expected, int tolerance = 12);
 
 } // namespace leafcast::service

@@ -4,7 +4,6 @@
 #include <log4cplus/appender.h>
 #include <log4cplus/logger.h>
 #include <log4cplus/spi/loggingevent.h>
-#include <mutex>
 
 using namespace Qt::StringLiterals;
 
@@ -19,14 +18,13 @@ namespace {
 
         QStringList lines() const
         {
-            const std::lock_guard guard(iMutex);
+            const log4cplus::thread::MutexGuard guard(access_mutex); // append() has it
             return iLines;
         }
 
     protected:
         void append(const log4cplus::spi::InternalLoggingEvent& event) override
         {
-            const std::lock_guard guard(iMutex);
             const auto level = log4cplus::getLogLevelManager().toString(event.getLogLevel());
             iLines.append(u"%1 %2: %3"_s.arg(QString::fromStdString(level),
                 QString::fromStdString(event.getLoggerName()),
@@ -34,7 +32,6 @@ namespace {
         }
 
     private:
-        mutable std::mutex iMutex;
         QStringList iLines;
     };
 
@@ -45,13 +42,12 @@ struct LogCapture::Sink {
     log4cplus::LogLevel formerLevel = log4cplus::Logger::getRoot().getLogLevel();
 };
 
-LogCapture::LogCapture(LogLevel threshold)
+LogCapture::LogCapture()
     : iSink(std::make_unique<Sink>())
 {
-    const bool all = threshold == LogLevel::Debug;
     log4cplus::Logger root = log4cplus::Logger::getRoot();
     root.addAppender(log4cplus::SharedAppenderPtr(iSink->appender.get()));
-    root.setLogLevel(all ? log4cplus::DEBUG_LOG_LEVEL : log4cplus::WARN_LOG_LEVEL);
+    root.setLogLevel(log4cplus::WARN_LOG_LEVEL);
 }
 
 LogCapture::~LogCapture()

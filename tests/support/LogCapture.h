@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "base/Log.h"
-
 #include <memory>
 #include <QStringList>
 
 namespace leafcast {
 
-/// Collects every record of at least the given level while it lives, each as "WARN FileSteps:
-/// text".
+/// Collects the warnings and errors while it lives, each as "WARN FileSteps: text".
 class LogCapture {
 public:
-    explicit LogCapture(LogLevel threshold = LogLevel::Warn);
+    LogCapture();
     ~LogCapture();
     LogCapture(const LogCapture&) = delete;
     LogCapture& operator=(const LogCapture&) = delete;

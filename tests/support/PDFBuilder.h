@@ -37,23 +37,24 @@ public:
         std::vector<OutlineEntry> children{};
     };
 
-    PDFBuilder();
+    PDFBuilder()
+        : PDFBuilder(0)
+    {
+    }
+    explicit PDFBuilder(int emptyPages);
 
     int addPage(const Page& page);
-    int addPage(); // letter size, empty
+    int addPage() { return addPage(Page{}); } // letter size, empty
 
     void addURLLink(int page, const Box& rect, const QByteArray& url);
     void addPageLink(int page, const Box& rect, int targetPage);
-    void addNamedLink(int page, const Box& rect, const QByteArray& name);
     /// The inside of an annotation's dictionary, such as "/Subtype /Text /Rect [0 0 9 9]".
-    int addAnnotation(int page, const QByteArray& entries);
+    void addAnnotation(int page, const QByteArray& entries);
 
     void setOutline(const std::vector<OutlineEntry>& entries);
     void setTitle(const QString& title);
     /// The inside of the number tree's array, such as "0 << /S /r >> 4 << /S /D /P (A-) >>".
     void setPageLabels(const QByteArray& numbers);
-    /// Into the catalogue's name tree.
-    void addNamedDestination(const QByteArray& name, int page);
     void addCatalogueEntries(const QByteArray& entries);
 
     /// Both give the new object's number; a stream's dictionary is given without /Length.
@@ -68,34 +69,21 @@ public:
     QByteArray build() const;
 
     static QByteArray reference(int object); // "5 0 R"
-    static QByteArray box(const Box& box); // "[0 0 612 792]"
-    /// A text string in UTF-16 with a byte order mark, as hexadecimal syntax.
-    static QByteArray textString(const QString& text);
     /// Content that shows one line of Helvetica in black.
     static QByteArray showText(const QByteArray& text, double x, double y, double size = 12);
 
 private:
-    QByteArray addOutlineLevel(const std::vector<OutlineEntry>& entries, int parent);
-    QByteArray pageBody(size_t index) const;
-    QByteArray catalogueBody() const;
-    QByteArray kidsBody() const;
+    QByteArray outlineLevel(const std::vector<OutlineEntry>& entries);
 
-    struct PageRecord {
-        Page page;
-        int object = 0;
-        int contentObject = 0;
-        std::vector<int> annotations;
-    };
-    struct NamedDestination {
-        QByteArray name;
-        int page = 0;
+    struct PageObjects {
+        int dictionary = 0;
+        int annotations = 0;
     };
 
     std::vector<QByteArray> iObjects; // the body of object n at n - 1
-    std::vector<PageRecord> iPages;
-    std::vector<NamedDestination> iNamedDestinations;
+    std::vector<PageObjects> iPages;
     QByteArray iCatalogueEntries;
-    int iInfoObject = 0;
+    QByteArray iTrailerEntries;
 };
 
 } // namespace leafcast

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/TemporaryResources.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+#include "support/TestFiles.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,12 +25,7 @@ QString TemporaryResources::path(const QString& relativePath) const
 
 QString TemporaryResources::addFile(const QString& relativePath, const QByteArray& content) const
 {
-    const QString full = path(relativePath);
-    QDir().mkpath(QFileInfo(full).path());
-    QFile file(full);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("can't write %s", qPrintable(full));
-    return full;
+    return writeTestFile(path(relativePath), content);
 }
 
 void TemporaryResources::addTemplate(const QString& name, const QByteArray& properties) const
