@@ -8,8 +8,12 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "bench"))
 import measure  # noqa: E402
 
 MEBIBYTE = 1 << 20
-HOLD_60_MEBIBYTES = "x = bytearray(b'1') * (60 << 20); import time; time.sleep(0.4)"
-WORK_A_WHILE = "import time\nwhile time.process_time() < 0.3: pass"
+HOLD_60_MEBIBYTES_AND_WORK = """
+import time
+held = bytearray(b'1') * (60 << 20)
+while time.process_time() < 0.3:
+    pass
+"""
 
 
 def python(code):
@@ -27,28 +31,19 @@ class MeasureTest(unittest.TestCase):
     def setUpClass(cls):
         measure.adopt_orphans()
 
-    def test_memory_of_a_grandchild_counts_to_the_peak(self):
-        run = measure.run(started_by_another(HOLD_60_MEBIBYTES, waits=True), sample_memory=True)
-        self.assertGreater(run.peak_bytes, 60 * MEBIBYTE)
-        self.assertLess(run.peak_bytes, 100 * MEBIBYTE)
-
-    def test_memory_of_an_orphan_counts_to_the_peak(self):
-        run = measure.run(started_by_another(HOLD_60_MEBIBYTES, waits=False), sample_memory=True)
-        self.assertGreater(run.peak_bytes, 60 * MEBIBYTE)
+    def test_memory_and_processor_time_of_grandchildren_count_orphans_too(self):
+        for waits in (True, False):
+            with self.subTest(waits=waits):
+                run = measure.run(started_by_another(HOLD_60_MEBIBYTES_AND_WORK, waits), sample_memory=True)
+                self.assertGreater(run.peak_bytes, 60 * MEBIBYTE)
+                self.assertLess(run.peak_bytes, 100 * MEBIBYTE)
+                self.assertGreater(run.cpu_seconds, 0.3)
 
     def test_memory_of_this_process_does_not_count(self):
         ballast = bytearray(b"1") * (80 << 20)
         run = measure.run(python("import time; time.sleep(0.2)"), sample_memory=True)
         self.assertGreater(run.peak_bytes, 0)
         self.assertLess(run.peak_bytes, len(ballast) // 2)
-
-    def test_processor_time_of_a_grandchild_counts(self):
-        run = measure.run(started_by_another(WORK_A_WHILE, waits=True))
-        self.assertGreater(run.cpu_seconds, 0.3)
-
-    def test_processor_time_of_an_orphan_counts(self):
-        run = measure.run(started_by_another(WORK_A_WHILE, waits=False))
-        self.assertGreater(run.cpu_seconds, 0.3)
 
     def test_a_failure_keeps_its_status_and_what_it_said(self):
         run = measure.run(python("import sys; print('out'); sys.exit('no such page')"))

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 import assert from 'node:assert/strict';
-import { after, before, describe, it } from 'node:test';
+import { after, afterEach, before, describe, it } from 'node:test';
 import { launchBrowser } from '../../tools/browser.mjs';
 import { changedBook, openBook, publishMagazine, removeBook, scriptWith } from './support.mjs';
 
@@ -16,26 +16,31 @@ async function drawnPages(page) {
 
 describe('a published book', () => {
   let browser, book;
-  const copies = [];
+  const books = [];
+
+  function published(...options) {
+    books.push(publishMagazine(...options));
+    return books.at(-1);
+  }
 
   before(async () => {
-    book = publishMagazine();
+    book = published();
     browser = await launchBrowser();
   });
 
+  afterEach(() => Promise.all(browser.contexts().map((context) => context.close())));
+
   after(async () => {
     await browser?.close();
-    [book, ...copies].filter(Boolean).forEach(removeBook);
+    books.forEach(removeBook);
   });
 
   const open = (options) => openBook(browser, book, options);
 
-  async function openChanged(changes, options) {
-    copies.push(changedBook(book, changes));
-    return openBook(browser, copies.at(-1), options);
+  function openChanged(changes) {
+    books.push(changedBook(book, changes));
+    return openBook(browser, books.at(-1));
   }
-
-  const openWith = (settings, options) => openChanged({ files: { 'javascript/main.js': scriptWith(book, settings) } }, options);
 
   it('opens at its cover, with its title, without a request that leaves the folder', async () => {
     const page = await open();
@@ -44,10 +49,9 @@ describe('a published book', () => {
     assert.equal(await page.title(), 'Hornbeam No. 7: Trees, leaves and things made by hand');
     await page.waitForLoadState('networkidle');
     assert.deepEqual(page.troubles, []);
-    await page.close();
   });
 
-  it('turns to the last page with the keys and back with the button', async () => {
+  it('turns to the last page with the keys, back and forth with the buttons', async () => {
     const page = await open();
     const seen = [await drawnPages(page)];
     while (seen.at(-1).at(-1) < 16) {
@@ -60,16 +64,10 @@ describe('a published book', () => {
     assert.equal(await position(page), '16 / 16');
     for (let turns = 1; turns < seen.length; turns++) await page.locator('#previous').click();
     assert.equal(await position(page), '1 / 16');
-    assert.deepEqual(page.troubles, []);
-    await page.close();
-  });
-
-  it('turns to the last page with the button', async () => {
-    const page = await open();
-    for (let turns = 0; turns < 9; turns++) await page.locator('#next').click();
+    for (let turns = 1; turns < seen.length; turns++) await page.locator('#next').click();
     assert.deepEqual(await drawnPages(page), [16]);
     assert.equal(await page.locator('#next').getAttribute('aria-disabled'), 'true');
-    await page.close();
+    assert.deepEqual(page.troubles, []);
   });
 
   it('turns when a finger swipes across, not when it moves down', async () => {
@@ -85,7 +83,6 @@ describe('a published book', () => {
     assert.equal(await position(page), '2–3 / 16');
     await swipe(120, 10);
     assert.equal(await position(page), '1 / 16');
-    await page.close();
   });
 
   it('follows links inside the book and marks links to the web', async () => {
@@ -96,7 +93,6 @@ describe('a published book', () => {
     assert.equal(await webLink.getAttribute('target'), '_blank');
     assert.match(await webLink.getAttribute('rel'), /noopener/);
     assert.match(page.url(), /#page\/12$/);
-    await page.close();
   });
 
   it('tells screen readers the place and the text of the pages', async () => {
@@ -105,7 +101,6 @@ describe('a published book', () => {
     const spoken = await page.getByRole('group', { name: 'Page 5' }).locator('.spoken').textContent();
     assert.match(spoken, /Why bother\?/);
     assert.equal(await page.getByRole('button', { name: 'Next page' }).count(), 1);
-    await page.close();
   });
 
   it('shows one page at a time in an upright window', async () => {
@@ -114,12 +109,10 @@ describe('a published book', () => {
     await page.setViewportSize({ width: 1280, height: 800 });
     await page.waitForFunction(() => document.querySelectorAll('.page').length === 2);
     assert.equal(await position(page), '2–3 / 16');
-    await page.close();
   });
 
   it('holds the chosen pages only, and the links that lead to them', async () => {
-    copies.push(publishMagazine('--pages', '2,12-14', '--title', 'A & B'));
-    const page = await openBook(browser, copies.at(-1));
+    const page = await openBook(browser, published('--pages', '2,12-14', '--title', 'A & B'));
     assert.equal(await page.title(), 'A & B');
     assert.equal(await position(page), '1 / 4');
     assert.deepEqual(await drawnPages(page), [2]);
@@ -128,7 +121,6 @@ describe('a published book', () => {
     await page.keyboard.press('ArrowRight');
     assert.deepEqual(await drawnPages(page), [12, 13]);
     assert.deepEqual(page.troubles, []);
-    await page.close();
   });
 
   it('works from the configuration script alone', async () => {
@@ -139,16 +131,13 @@ describe('a published book', () => {
     assert.equal(await page.locator('.missing .label').textContent(), '5');
     await page.keyboard.press('End');
     assert.equal(await position(page), '16 / 16');
-    await page.close();
   });
 
   it('names the pictures it looked for when it has no page list to go by', async () => {
-    copies.push(publishMagazine('--pages', '5-6', '--set', 'readerData=NO', '--set', 'coverAlone=NO'));
-    const page = await openBook(browser, copies.at(-1));
+    const page = await openBook(browser, published('--pages', '5-6', '--set', 'readerData=NO', '--set', 'coverAlone=NO'));
     await page.waitForFunction(() => document.querySelectorAll('.missing').length === 2);
     assert.deepEqual(await page.locator('.missing .reason').allTextContents(),
       ['There is no picture files/page/1.jpg.', 'There is no picture files/page/2.jpg.']);
-    await page.close();
   });
 
   it('says so when it has no pages', async () => {
@@ -157,7 +146,6 @@ describe('a published book', () => {
     });
     assert.equal(await page.getByRole('status').textContent(), 'This book has no pages.');
     assert.deepEqual(page.troubles, []);
-    await page.close();
   });
 
   it('defines the digest that the configuration script calls', async () => {
@@ -167,7 +155,6 @@ describe('a published book', () => {
       'd41d8cd98f00b204e9800998ecf8427e', '900150983cd24fb0d6963f7d28e17f72',
       '8a7bd0732ed6a28ce75f6dabc90e1613', '5f61c0ccad4cac44c75ff505e1f1e537',
     ]);
-    await page.close();
   });
 
   describe('does what its settings say:', () => {
@@ -223,11 +210,10 @@ describe('a published book', () => {
     };
     for (const [name, [settings, check]] of Object.entries(checks))
       it(name, async () => {
-        const page = await openWith(settings);
+        const page = await openChanged({ files: { 'javascript/main.js': scriptWith(book, settings) } });
         await drawnPages(page);
         await check(page);
         assert.deepEqual(page.troubles, []);
-        await page.close();
       });
   });
 });

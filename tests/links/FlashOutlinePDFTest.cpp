@@ -11,9 +11,7 @@ using namespace leafcast;
 
 TEST(FlashOutlinePDF, AppendsTheBookmarksWithTheirNumbersInTheWholeDocument)
 {
-    PDFBuilder builder;
-    for (int i = 0; i < 4; ++i)
-        builder.addPage();
+    PDFBuilder builder(4);
     const PDFBuilder::OutlineEntry child{ u"Boskop"_s, builder.explicitDestination(3), {} };
     builder.setOutline(
         { { u"Äpfel"_s, builder.explicitDestination(0), { child } }, { u"No target"_s, {}, {} } });

@@ -32,7 +32,7 @@ TEST(FlashPagesAnnotationsPDF, WritesEveryLinkOfTheRangeThatLeadsSomewhereByteFo
         builder.addPage({ .mediaBox = { 0, 0, 600, 800 } });
     builder.addURLLink(2, place, "https://example.org/?a=1&b=2");
     builder.addPageLink(2, place, 9);
-    builder.addNamedLink(2, place, "nowhere");
+    builder.addAnnotation(2, "/Subtype /Link /Rect [60 700 180 740] /Dest (nowhere)");
     builder.addAnnotation(2, "/Subtype /Text /Rect [0 0 9 9]");
     builder.addAnnotation(2, "/Subtype /Link /Rect [0 0 9 9]");
     const QTemporaryDir folder;

@@ -15,13 +15,7 @@ namespace {
 
 class ImportPDFOperationTest : public testing::Test {
 protected:
-    ImportPDFOperationTest()
-    {
-        PDFBuilder builder;
-        for (int i = 0; i < 6; ++i)
-            builder.addPage();
-        writeTestFile(iPath, builder.build());
-    }
+    ImportPDFOperationTest() { writeTestFile(iPath, PDFBuilder(6).build()); }
 
     std::unique_ptr<ImportPDFOperation> operation(const QString& range)
     {
