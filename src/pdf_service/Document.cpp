@@ -11,7 +11,10 @@ namespace leafcast::service {
 
 namespace {
     constexpr size_t BytesBeforeTrimming = size_t{ 40 } << 20U;
-}
+    // Few enough that what they parse stays below what one picture needs, many enough that parsing
+    // a shared object again costs nothing that can be measured.
+    constexpr int RequestsBeforeForgetting = 200;
+} // namespace
 
 Document::Document(const Library& library, const QString& path, const QString& password)
     : iLibrary(library)
@@ -121,12 +124,19 @@ pdf_obj* Document::pageObject(int pageIndex) const
     return page;
 }
 
-void Document::trimMemory() const
+void Document::trimMemory()
 {
-    if (iLibrary.bytesInUse() < BytesBeforeTrimming)
-        return;
-    iLibrary.emptyCaches();
+    const bool full = iLibrary.bytesInUse() >= BytesBeforeTrimming;
+    if (full)
+        iLibrary.emptyCaches();
+    if (full || ++iRequestsSinceForgetting >= RequestsBeforeForgetting)
+        forgetParsedObjects();
+}
+
+void Document::forgetParsedObjects()
+{
     (void)iLibrary.attempt([&] { pdf_clear_xref(context(), iDocument); });
+    iRequestsSinceForgetting = 0;
 }
 
 } // namespace leafcast::service

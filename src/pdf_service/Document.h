@@ -40,18 +40,20 @@ public:
     /// Throws NoPage for an index outside the document, Page when there is nothing at it.
     pdf_obj* pageObject(int pageIndex) const;
 
-    /// Called between requests: drops what the parser and the caches have kept once it has grown,
-    /// so that a long document needs no more memory than a short one.
-    void trimMemory() const;
+    /// Called between requests: drops what the parser and the caches have kept, now and then and
+    /// when it has grown, so that a long document needs no more memory than a short one.
+    void trimMemory();
 
 private:
     void openFile(const QString& path);
     void close();
     void authenticate(const QString& password) const;
     void readTitle();
+    void forgetParsedObjects();
 
     const Library& iLibrary;
     pdf_document* iDocument = nullptr;
+    int iRequestsSinceForgetting = 0;
     PageTree iPageTree;
     QString iTitle;
     std::unique_ptr<PrintColours> iPrintColours;

@@ -137,3 +137,17 @@ TEST(Outline, HangsWhatIsNestedTooDeeplyAtTheLastLevel)
     EXPECT_EQ(entries.at(99).toObject().value(u"level").toInt(), 100);
     EXPECT_EQ(entries.last().toObject().value(u"level").toInt(), 100);
 }
+
+TEST(Annotations, KeepTheirTargetsInALongSession)
+{
+    PDFBuilder pdf = builderWithPages(3);
+    pdf.addNamedDestination("tree", 2);
+    pdf.addAnnotation(0, "/Subtype /Link /Rect [0 0 9 9] /Dest (tree)");
+    ServiceSession session(pdf);
+    const auto ask = [&] { return session.ask(u"annotations"_s, { { u"page"_s, 0 } }); };
+    const QJsonObject first = ask();
+    EXPECT_EQ(first[u"annotations"][0][u"page"], 2);
+    // The parser's objects are dropped every few hundred requests.
+    for (int i = 0; i < 500; ++i)
+        ASSERT_EQ(ask().value(u"annotations"), first.value(u"annotations"));
+}
