@@ -104,7 +104,7 @@ def run(command, sample_memory=False, environment=None):
     return Run(seconds, cpu, process.returncode, text, peak)
 
 
-def reap_orphans(patience_seconds=2.0):
+def reap_orphans(patience_seconds=20.0):
     deadline = time.perf_counter() + patience_seconds
     while time.perf_counter() < deadline:
         try:
