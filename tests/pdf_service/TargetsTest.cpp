@@ -140,8 +140,8 @@ TEST(Outline, HangsWhatIsNestedTooDeeplyAtTheLastLevel)
 
 TEST(Annotations, KeepTheirTargetsInALongSession)
 {
-    PDFBuilder pdf = builderWithPages(3);
-    pdf.addNamedDestination("tree", 2);
+    PDFBuilder pdf(3);
+    pdf.addCatalogueEntries("/Names << /Dests << /Names [(tree) [2 /Fit]] >> >>");
     pdf.addAnnotation(0, "/Subtype /Link /Rect [0 0 9 9] /Dest (tree)");
     ServiceSession session(pdf);
     const auto ask = [&] { return session.ask(u"annotations"_s, { { u"page"_s, 0 } }); };
