@@ -2,6 +2,7 @@
 #include "base/FileCopy.h"
 
 #include "base/FileDescriptor.h"
+#include "base/Log.h"
 #include "base/SystemError.h"
 
 #include <array>
@@ -65,11 +66,25 @@ namespace {
         }
     }
 
-    bool copyAttributes(const struct stat& from, int to)
+    /// Memory sticks and network shares may refuse it to all but root, who mounted them. Their
+    /// files are none the worse for that.
+    void copyAttributes(const struct stat& from, int to, const char* path)
     {
         constexpr mode_t permissions = 0777;
         const std::array<timespec, 2> times{ from.st_atim, from.st_mtim };
-        return fchmod(to, from.st_mode & permissions) == 0 && futimens(to, times.data()) == 0;
+        if (fchmod(to, from.st_mode & permissions) != 0 || futimens(to, times.data()) != 0)
+            LOG_WARN("FileCopy",
+                u"%1 could not get time and permissions of what it is a copy of: %2"_s.arg(
+                    QFile::decodeName(path), systemErrorText()));
+    }
+
+    bool isFree(const char* path)
+    {
+        struct stat status { };
+        if (lstat(path, &status) != 0)
+            return errno == ENOENT;
+        errno = EEXIST;
+        return false;
     }
 
     bool moveIntoPlace(const char* from, const char* to, FileCopy::WhenTaken whenTaken)
@@ -78,8 +93,8 @@ namespace {
             return rename(from, to) == 0;
         if (renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0)
             return true;
-        // Some file systems have no such rename; a hard link refuses a taken name just as well.
-        return errno == EINVAL && link(from, to) == 0 && unlink(from) == 0;
+        // File systems that have no such rename may not have hard links either.
+        return errno == EINVAL && isFree(to) && rename(from, to) == 0;
     }
 
 } // namespace
@@ -107,12 +122,16 @@ bool FileCopy::placeAt(const QString& destination, WhenTaken whenTaken)
     FileDescriptor to(mkostemp(temporary.data(), O_CLOEXEC));
     if (!to.isOpen())
         return fail("create");
-    if (copyContent(from.get(), to.get()) && copyAttributes(status, to.get()) && to.close()
-        && moveIntoPlace(temporary.constData(), target.constData(), whenTaken))
-        return true;
-    fail("copy");
-    unlink(temporary.constData());
-    return false;
+    bool copied = copyContent(from.get(), to.get());
+    if (copied)
+        copyAttributes(status, to.get(), target.constData());
+    copied = copied && to.close()
+        && moveIntoPlace(temporary.constData(), target.constData(), whenTaken);
+    if (!copied) {
+        fail("copy");
+        unlink(temporary.constData());
+    }
+    return copied;
 }
 
 } // namespace leafcast

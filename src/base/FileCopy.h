@@ -16,7 +16,8 @@ public:
     {
     }
 
-    /// Modification time and permissions go along. False with error() set when anything failed.
+    /// Modification time and permissions go along where the file system lets them; where not, one
+    /// line in the log says so. False with error() set when anything else failed.
     [[nodiscard]] bool placeAt(const QString& destination, WhenTaken whenTaken);
 
     const QString& error() const { return iError; }

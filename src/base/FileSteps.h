@@ -24,7 +24,8 @@ bool makeFolders(const QString& path);
 bool makeFolder(const QString& path);
 
 /// Copies a regular file to a path where nothing lies yet. The copy appears whole or not at all and
-/// keeps modification time and permissions; the file system's own cloning is used where it has it.
+/// keeps modification time and permissions where the file system lets it, whose own cloning is used
+/// where it has it.
 bool copyFile(const QString& source, const QString& destination);
 
 /// Makes destination the same as source. An unchanged one (same size and modification time) is left

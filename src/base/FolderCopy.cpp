@@ -40,6 +40,8 @@ bool FolderCopy::placeAt(const QString& destination)
 
 bool FolderCopy::copyFolder(const QFileInfo& folder, const QString& destination)
 {
+    if (!folder.isReadable() || !folder.isExecutable()) // would look empty
+        return failed("copy the folder", folder.filePath(), u"it may not be read"_s);
     constexpr mode_t asTheUserWants = 0777;
     if (::mkdir(QFile::encodeName(destination).constData(), asTheUserWants) != 0)
         return failed("make the folder", destination, systemErrorText());

@@ -17,6 +17,13 @@ class FileStepsTest : public testing::Test {
 protected:
     QString at(const QString& name) const { return iFolder.filePath(name); }
 
+    static ino_t inodeOf(const QString& path)
+    {
+        struct stat status { };
+        EXPECT_EQ(stat(QFile::encodeName(path).constData(), &status), 0);
+        return status.st_ino;
+    }
+
     QStringList names(const QString& folder) const
     {
         return QDir(at(folder)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
@@ -45,7 +52,7 @@ TEST_F(FileStepsTest, ACopyKeepsBytesTimeAndPermissionsAndNeverOverwrites)
     EXPECT_EQ(iLog.lines().filter(at(u"b"_s)).size(), 1);
 }
 
-TEST_F(FileStepsTest, ReplacingSwapsWhateverIsThereForTheFileAndLeavesNothingOfTheOldWithoutOne)
+TEST_F(FileStepsTest, ReplacingSwapsAllButAnEqualFileAndLeavesNothingOfTheOldWithoutASource)
 {
     writeTestFile(at(u"a"_s), "page");
     writeTestFile(at(u"folder/inside"_s), "x");
@@ -56,6 +63,9 @@ TEST_F(FileStepsTest, ReplacingSwapsWhateverIsThereForTheFileAndLeavesNothingOfT
         EXPECT_EQ(readTestFile(at(name)), "page");
     }
     EXPECT_EQ(readTestFile(at(u"elsewhere"_s)), "kept");
+    const ino_t before = inodeOf(at(u"old"_s));
+    EXPECT_TRUE(FileSteps::replaceFile(at(u"a"_s), at(u"old"_s)));
+    EXPECT_EQ(inodeOf(at(u"old"_s)), before);
     EXPECT_FALSE(FileSteps::replaceFile(at(u"missing"_s), at(u"old"_s)));
     EXPECT_FALSE(FileSteps::exists(at(u"old"_s)));
     EXPECT_EQ(iLog.lines().size(), 1);
