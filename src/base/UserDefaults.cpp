@@ -43,8 +43,12 @@ namespace {
 
 UserDefaults::UserDefaults(const QString& filePath)
     : iFilePath(filePath)
-    , iValues(readFile().value_or(QJsonObject()))
 {
+    const Content content = readFile();
+    iValues = content.values;
+    if (content.state == FileState::Damaged)
+        LOG_WARN(
+            "UserDefaults", u"%1 is damaged (%2) and not used"_s.arg(iFilePath, content.damage));
 }
 
 UserDefaults& UserDefaults::standard()
@@ -82,39 +86,37 @@ void UserDefaults::synchronize()
             u"can't save %1: %2"_s.arg(iFilePath, problemOfLock(otherProcesses.error())));
         return;
     }
-    auto merged = readFile();
-    if (!merged)
+    auto [merged, state, damage] = readFile();
+    if (state == FileState::Unreadable || (state == FileState::Damaged && !setAside(damage)))
         return;
     for (const QString& key : std::as_const(iChangedKeys))
-        merged->insert(key, iValues.value(key));
-    if (!FileSteps::writeAtomically(iFilePath, QJsonDocument(*merged).toJson()))
+        merged.insert(key, iValues.value(key));
+    if (!FileSteps::writeAtomically(iFilePath, QJsonDocument(merged).toJson()))
         return;
-    iValues = *merged;
+    iValues = merged;
     iChangedKeys.clear();
 }
 
-std::optional<QJsonObject> UserDefaults::readFile() const
+UserDefaults::Content UserDefaults::readFile() const
 {
     if (!QFileInfo::exists(iFilePath))
-        return QJsonObject();
+        return {};
     const auto bytes = FileSteps::read(iFilePath);
     if (!bytes)
-        return std::nullopt;
+        return { {}, FileState::Unreadable, {} };
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(*bytes, &error);
     if (document.isObject())
-        return document.object();
-    if (!setAsideDamagedFile(error.error ? error.errorString() : u"it holds no object"_s))
-        return std::nullopt;
-    return QJsonObject();
+        return { document.object(), FileState::Usable, {} };
+    return { {}, FileState::Damaged, error.error ? error.errorString() : u"it holds no object"_s };
 }
 
-bool UserDefaults::setAsideDamagedFile(const QString& why) const
+bool UserDefaults::setAside(const QString& damage) const
 {
     const QString asideName = unusedNameBeside(iFilePath);
     const bool moved = QFile::rename(iFilePath, asideName);
     LOG_WARN("UserDefaults",
-        u"%1 is damaged (%2); %3"_s.arg(iFilePath, why,
+        u"%1 is damaged (%2); %3"_s.arg(iFilePath, damage,
             moved ? u"set aside as "_s + asideName : u"it could not be set aside"_s));
     return moved;
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <mutex>
-#include <optional>
 #include <QJsonObject>
 #include <QSet>
 #include <QString>
@@ -24,15 +23,22 @@ public:
     /// A value that is held already counts as unchanged.
     void setObject(const QString& key, const QJsonValue& value);
 
-    /// Writes the file atomically, then holds what another process stored meanwhile too. A failure
-    /// leaves the older file and one log line, and the values are kept for the next time. So does a
-    /// file that can be neither read nor, when damaged, set aside.
+    /// Writes the file atomically, then holds what another process stored meanwhile too. A damaged
+    /// file is first set aside under another name. A failure leaves the older file and one log
+    /// line, and the values are kept for the next time. So does a file that can be neither read
+    /// nor, when damaged, set aside.
     void synchronize();
 
 private:
-    /// Empty without a file; none when there is one whose content must not be overwritten.
-    std::optional<QJsonObject> readFile() const;
-    bool setAsideDamagedFile(const QString& why) const;
+    enum class FileState { Usable, Unreadable, Damaged }; // none at all is usable
+    struct Content {
+        QJsonObject values;
+        FileState state = FileState::Usable;
+        QString damage; // what makes it a damaged one
+    };
+    Content readFile() const;
+    /// Only under the lock: without it the file may be another process's new one by then.
+    bool setAside(const QString& damage) const;
 
     mutable std::mutex iMutex;
     QString iFilePath;

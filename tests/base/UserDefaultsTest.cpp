@@ -16,18 +16,19 @@ protected:
     QString iFile = iFolder.filePath(u"100%1 %2/defaults.json"_s);
 };
 
-TEST_F(UserDefaultsTest, ADamagedFileIsSetAsideWithOneLogLineWhateverItsFolderIsCalled)
+TEST_F(UserDefaultsTest, ADamagedFileIsSetAsideWhenItIsReplacedButNotOnesThatAreWhole)
 {
     writeTestFile(iFile, "{\"cut off");
     const LogCapture log;
-
     UserDefaults defaults(iFile);
-    defaults.setObject(u"a"_s, 1);
-    defaults.synchronize();
-
+    UserDefaults others(iFile);
+    for (UserDefaults* each : { &others, &defaults }) {
+        each->setObject(each == &others ? u"b"_s : u"a"_s, 1);
+        each->synchronize();
+    }
     EXPECT_EQ(readTestFile(iFile + u".damaged-1"_s), "{\"cut off");
-    EXPECT_EQ(UserDefaults(iFile).objectForKey(u"a"_s).toInt(), 1);
-    EXPECT_EQ(log.lines().size(), 1) << log.lines().join(u'\n').toStdString();
+    EXPECT_EQ(readTestFile(iFile).simplified(), R"({ "a": 1, "b": 1 })");
+    EXPECT_EQ(log.lines().size(), 3) << log.lines().join(u'\n').toStdString();
 }
 
 TEST_F(UserDefaultsTest, WhatCannotBeReadIsNotOverwrittenAndTheValuesWait)
