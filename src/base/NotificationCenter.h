@@ -19,7 +19,8 @@ struct Notification {
 /// Carries notifications from posters to observers who do not know each other. Posting is
 /// synchronous: observers run on the poster's thread, in the order of their registration, and pass
 /// on to another thread themselves; one observer runs on one thread at a time. Safe on any thread;
-/// an observer may register, unregister (itself too) and post.
+/// an observer may register, unregister (itself too) and post, but no two observers to each other
+/// from two threads: each would wait for the other.
 class NotificationCenter {
 public:
     using Observer = std::function<void(const Notification&)>;

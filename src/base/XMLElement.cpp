@@ -100,12 +100,6 @@ XMLElement XMLElement::addChild(const QString& name)
     return { iDocument, xmlNewChild(iNode, nullptr, toXML(name.toUtf8()), nullptr) };
 }
 
-void XMLElement::appendChild(const XMLElement& child)
-{
-    constexpr int withEverythingBelow = 1;
-    xmlAddChild(iNode, xmlDocCopyNode(child.iNode, iDocument.get(), withEverythingBelow));
-}
-
 std::optional<XMLElement> XMLElement::firstChild(const QString& name) const
 {
     const QByteArray wanted = name.toUtf8();

@@ -35,8 +35,6 @@ public:
 
     /// Appends a new child element, which shares this tree.
     XMLElement addChild(const QString& name);
-    /// Appends a copy of another element with everything below it.
-    void appendChild(const XMLElement& child);
 
     std::optional<XMLElement> firstChild(const QString& name) const;
     /// The direct child elements of that name, in document order.
