@@ -7,6 +7,13 @@ namespace leafcast {
 
 namespace {
 
+    QStringView withoutTrailingSpace(QStringView text)
+    {
+        while (!text.isEmpty() && text.back().isSpace())
+            text.chop(1);
+        return text;
+    }
+
     class Scanner {
     public:
         explicit Scanner(QStringView text)
@@ -20,7 +27,15 @@ namespace {
             return iRest.isEmpty();
         }
 
-        /// What stands before the mark, or everything when it does not occur; may be empty.
+        /// What stands before the mark, or everything when it does not occur; may be empty. Blanks
+        /// at the end of the text are dropped.
+        QStringView scanTextUpTo(QStringView mark)
+        {
+            const QStringView text = scanUpTo(mark);
+            return iRest.isEmpty() ? withoutTrailingSpace(text) : text;
+        }
+
+        /// The same with blanks at the end.
         QStringView scanUpTo(QStringView mark)
         {
             skipWhiteSpace();
@@ -52,23 +67,16 @@ namespace {
         QStringView iRest;
     };
 
-    QStringView withoutTrailingSpace(QStringView text)
-    {
-        while (!text.isEmpty() && text.back().isSpace())
-            text.chop(1);
-        return text;
-    }
-
 } // namespace
 
 QString TextTemplate::parse() const
 {
     QString result;
-    Scanner scanner(withoutTrailingSpace(fromStr));
+    Scanner scanner(fromStr);
     while (!scanner.isAtEnd()) {
-        const QStringView text = scanner.scanUpTo(u"${");
+        const QStringView text = scanner.scanTextUpTo(u"${");
         if (text.isEmpty())
-            return result.append(scanner.scanUpTo(u"___${__"));
+            return result.append(scanner.scanTextUpTo(u"___${__"));
         scanner.scan(u"${");
         const QString key = scanner.scanUpTo(u"}").toString();
         scanner.scan(u"}");

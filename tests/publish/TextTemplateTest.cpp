@@ -14,7 +14,7 @@ TEST(TextTemplate, ScansAsThePagesOfTemplatesExpectIt)
         { u"a${t} \n ${t} ${t} z", u"aT${t} ${t} z" },
         { u"a${t} rest ___${__ ${t} b", u"aTrest ___b" },
         { u"a${x}${t}b ___${__ lost", u"a${t}b " }, { u"a${t and the rest } is lost", u"ais lost" },
-        { u"a${t}b\r\n", u"aTb" }, { u"", u"" } };
+        { u"a${t}b\r\n", u"aTb" }, { u"a${t\r\n", u"a" }, { u"", u"" } };
     for (const auto& [text, filled] : cases) {
         TextTemplate page(QString::fromUtf16(text));
         page.setItem(u"t"_s, u"old"_s);
