@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "publish/ImageHeader.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 #include <QFile>
 #include <QImageReader>
 #include <QtEndian>
@@ -73,6 +75,12 @@ namespace {
         }
     }
 
+    int wholePoints(int pixels, double density)
+    {
+        constexpr double most = std::numeric_limits<int>::max();
+        return static_cast<int>(std::min(pixels * pointsPerInch / density, most));
+    }
+
     Density densityOf(const QString& path)
     {
         QFile file(path);
@@ -100,8 +108,7 @@ QSize sizeInPoints(const QString& path)
 {
     const QSize pixels = sizeInPixels(path);
     const Density density = densityOf(path);
-    return { static_cast<int>(pixels.width() * pointsPerInch / density.x),
-        static_cast<int>(pixels.height() * pointsPerInch / density.y) };
+    return { wholePoints(pixels.width(), density.x), wholePoints(pixels.height(), density.y) };
 }
 
 } // namespace leafcast::ImageHeader

@@ -26,13 +26,13 @@ namespace {
         return readerOutline(book.outline->items(), BookPlaces(book.pageSource.normalPages()));
     }
 
-    // A QSaveFile commits after a short write or a failed last flush all the same.
     void postProgress(const ReaderPages& pages)
     {
         NotificationCenter::defaultCenter().post(ReaderDataProgressMSG,
             { { u"pageIndex"_s, pages.position() }, { u"totalPage"_s, pages.count() } });
     }
 
+    // A QSaveFile commits after a short write or a failed last flush all the same.
     bool writeContent(QSaveFile& file, const ReaderBook& book)
     {
         ReaderPages pages(book);
