@@ -49,6 +49,21 @@ TEST_F(FlashTemplateSettingsTest, WritesEveryPropertyInTreeOrderAndFindsTheFirst
         "\"\\\n\ra|||b=top");
 }
 
+TEST_F(FlashTemplateSettingsTest, ReadsBackWhatItWroteButThePageSize)
+{
+    const std::pair<QString, QString> values[] = { { u"pageWidth"_s, u"1024"_s },
+        { u"ink"_s, u"0xABCdef"_s }, { u"logo"_s, u"/p/\u00E9 100%1 = a.png"_s },
+        { u"look"_s, u" \u6E2C \U0001F343\"\\ "_s } };
+    for (const auto& [key, value] : values)
+        flashTemplate.setPropertyValue(key, value);
+    const QString file = resources.path(u"out.txt"_s);
+    EXPECT_TRUE(flashTemplate.exportPropertiesSettingsTo(file));
+    flashTemplate.loadTemplate(u"float"_s);
+    EXPECT_TRUE(flashTemplate.importPropertiesSettingsFrom(file).unknownKeys.isEmpty());
+    for (const auto& [key, written] : values)
+        EXPECT_EQ(value(key), key == u"pageWidth" ? u"800"_s : written);
+}
+
 TEST_F(FlashTemplateSettingsTest, ReadsAnyLineEndAndSplitsAtTheFirstEqualsSign)
 {
     for (const QByteArray lineEnd : { "\n", "\r\n", "\n\r" }) {
