@@ -56,6 +56,8 @@ namespace {
             posix_spawn_file_actions_adddup2(&iActions, socket, STDIN_FILENO);
             posix_spawn_file_actions_adddup2(&iActions, socket, STDOUT_FILENO);
             posix_spawn_file_actions_adddup2(&iActions, errors, STDERR_FILENO);
+            // Who started us may have left us more than we know of.
+            posix_spawn_file_actions_addclosefrom_np(&iActions, STDERR_FILENO + 1);
         }
         StandardStreams(const StandardStreams&) = delete;
         StandardStreams& operator=(const StandardStreams&) = delete;

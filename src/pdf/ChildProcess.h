@@ -11,8 +11,8 @@ namespace leafcast {
 
 /// A program started in a process group of its own, so that Ctrl-C in the terminal reaches the
 /// program that watches it, not it. One socket is its standard input and output; its standard error
-/// is kept apart, at most 64 KiB of it. Destruction kills it and leaves no zombie. One thread, but
-/// for stop().
+/// is kept apart, at most 64 KiB of it; no other file of ours is open in it. Destruction kills it
+/// and leaves no zombie. One thread, but for stop().
 class ChildProcess {
 public:
     struct Ending {
