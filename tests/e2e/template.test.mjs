@@ -10,14 +10,10 @@ const STYLES = pathOf('resources/AppFiles/Styles/float/');
 const PARTS = ['key', 'title', 'desc', 'value', 'valueSource', 'defalutValue'];
 
 // Runs in the browser, which brings the XML parser.
-function readProperties([text, parts]) {
-  const root = new DOMParser().parseFromString(text, 'application/xml').documentElement;
-  const child = (node, name) => [...node.children].find((each) => each.tagName === name)?.textContent;
-  return [...root.querySelectorAll('property')].map((node) => ({
-    type: node.getAttribute('type'),
-    aTitle: child(node, 'aTitle'),
-    ...Object.fromEntries(parts.map((name) => [name, child(node, name)])),
-  }));
+function readProperties(text) {
+  const nodes = new DOMParser().parseFromString(text, 'application/xml').querySelectorAll('property');
+  const partsOf = (node) => Object.fromEntries([...node.children].map((part) => [part.tagName, part.textContent]));
+  return [...nodes].map((node) => ({ type: node.getAttribute('type'), ...partsOf(node) }));
 }
 
 describe('the template float', () => {
@@ -26,7 +22,7 @@ describe('the template float', () => {
   before(async () => {
     browser = await launchBrowser();
     const page = await browser.newPage();
-    properties = await page.evaluate(readProperties, [readFileSync(TEMPLATE + 'flashTemplate.xml', 'utf8'), PARTS]);
+    properties = await page.evaluate(readProperties, readFileSync(TEMPLATE + 'flashTemplate.xml', 'utf8'));
   });
 
   after(() => browser?.close());
