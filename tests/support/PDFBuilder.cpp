@@ -2,6 +2,7 @@
 #include "support/PDFBuilder.h"
 
 #include <QStringEncoder>
+#include <ranges>
 
 namespace leafcast {
 
@@ -90,9 +91,9 @@ void PDFBuilder::setOutline(const std::vector<OutlineEntry>& entries)
 QByteArray PDFBuilder::outlineLevel(const std::vector<OutlineEntry>& entries)
 {
     QByteArray next;
-    for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {
-        const QByteArray body = "<< /Title " + textString(entry->label) + ' ' + entry->target
-            + outlineLevel(entry->children);
+    for (const OutlineEntry& entry : std::views::reverse(entries)) {
+        const QByteArray body = "<< /Title " + textString(entry.label) + ' ' + entry.target
+            + outlineLevel(entry.children);
         const int object = addObject(body + (next.isEmpty() ? next : " /Next " + next) + " >>");
         next = reference(object);
     }
