@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Command.h"
 
+#include "base/TextDecoding.h"
+
 #include <algorithm>
-#include <QFile>
+
+using namespace Qt::StringLiterals;
 
 namespace leafcast {
 
@@ -23,9 +26,19 @@ std::vector<std::string> protectedArguments(int argc, char** argv)
     return arguments;
 }
 
+QString withoutGuards(QString text)
+{
+    return text.remove(QLatin1Char(guard));
+}
+
 QString fromArgument(const std::string& argument)
 {
-    return QFile::decodeName(argument.c_str() + (argument.starts_with(guard) ? 1 : 0));
+    const QByteArray typed(argument.c_str() + (argument.starts_with(guard) ? 1 : 0));
+    // Decoded all the same, it would name another file.
+    if (!isValidUtf8(typed))
+        throw CommandFailure(ExitCode::WrongUsage,
+            u"%1: names and texts must be UTF-8"_s.arg(QString::fromUtf8(typed)));
+    return QString::fromUtf8(typed);
 }
 
 QString pathFromArgument(const std::string& argument)

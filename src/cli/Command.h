@@ -21,7 +21,9 @@ void addSettingsCommand(CLI::App& program, Action& chosen);
 /// Hides from the parser that an argument begins with "[", which it would take for a list.
 /// fromArgument() undoes it.
 std::vector<std::string> protectedArguments(int argc, char** argv);
-/// A text as it was typed.
+/// What the parser says of arguments, without what protects them.
+QString withoutGuards(QString text);
+/// A text as it was typed. Throws CommandFailure for one that is not UTF-8.
 QString fromArgument(const std::string& argument);
 /// A path as it was typed; one that begins with ":" is a file's all the same.
 QString pathFromArgument(const std::string& argument);

@@ -3,6 +3,7 @@
 
 #include "base/FolderWalk.h"
 #include "cli/ExitCode.h"
+#include "cli/FileReason.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -26,6 +27,12 @@ namespace {
         return entry.isFile() && !entry.isHidden() && hasImageExtension(entry.fileName());
     }
 
+    [[noreturn]] void refuse(const QString& path, const QString& reason)
+    {
+        throw CommandFailure(
+            ExitCode::InputUnreadable, u"%1 can't be used: %2"_s.arg(path, reason));
+    }
+
     QStringList imagesInFolder(const QString& folder)
     {
         QStringList paths;
@@ -36,16 +43,24 @@ namespace {
         return paths;
     }
 
+    QStringList imagesOf(const QString& input)
+    {
+        if (!QFileInfo(input).isDir())
+            return { QFileInfo(input).absoluteFilePath() };
+        const QStringList paths = imagesInFolder(input);
+        if (paths.isEmpty())
+            refuse(input,
+                QFileInfo(input).isReadable() ? u"it holds no images (.jpg, .jpeg, .png, .gif)"_s
+                                              : u"it may not be read"_s);
+        return paths;
+    }
+
     void requirePicture(const QString& path)
     {
-        if (!QFileInfo::exists(path))
-            throw CommandFailure(
-                ExitCode::InputUnreadable, u"the image %1 does not exist"_s.arg(path));
         QImageReader reader(path);
         reader.setDecideFormatFromContent(true);
         if (!reader.canRead())
-            throw CommandFailure(ExitCode::InputUnreadable,
-                u"the image %1 can't be read: %2"_s.arg(path, reader.errorString().toLower()));
+            refuse(path, whyUnreadable(path, reader.errorString().toLower()));
     }
 
 } // namespace
@@ -59,13 +74,9 @@ QStringList imagePaths(const QStringList& inputs)
 {
     QStringList paths;
     for (const QString& input : inputs)
-        paths.append(QFileInfo(input).isDir() ? imagesInFolder(input)
-                                              : QStringList{ QFileInfo(input).absoluteFilePath() });
+        paths.append(imagesOf(input));
     for (const QString& path : paths)
         requirePicture(path);
-    if (paths.isEmpty())
-        throw CommandFailure(ExitCode::InputUnreadable,
-            u"%1 holds no images (.jpg, .jpeg, .png, .gif)"_s.arg(inputs.join(u", "_s)));
     return paths;
 }
 

@@ -9,7 +9,7 @@ namespace leafcast {
 bool isImageInput(const QString& path);
 
 /// Absolute paths of the pages: files as given, folders by their pictures in natural order. Throws
-/// CommandFailure for a file that is missing or no picture, and when there is no picture at all.
+/// CommandFailure for a file that is missing or no picture, and for a folder without any.
 QStringList imagePaths(const QStringList& inputs);
 
 } // namespace leafcast

@@ -120,8 +120,8 @@ namespace {
     void printText(const PDFDocument& document)
     {
         const LinkCounts links = countLinks(document);
-        Console::writeLine(
-            u"Title:    %1"_s.arg(document.title().isEmpty() ? u"(none)"_s : document.title()));
+        Console::writeLine(u"Title:    %1"_s.arg(
+            document.title().isEmpty() ? u"(none)"_s : Console::printable(document.title())));
         Console::writeLine(u"Locked:   %1"_s.arg(document.isEncrypted() ? u"yes"_s : u"no"_s));
         Console::writeLine(u"Damaged:  %1"_s.arg(
             document.isRepaired() ? u"yes, but it could be mended"_s : u"no"_s));
@@ -169,9 +169,10 @@ void addInspectCommand(CLI::App& program, Action& chosen)
     CLI::App* command = program.add_subcommand("inspect", "Tell what a PDF holds");
     const auto options = std::make_shared<InspectOptions>();
     command->add_option("FILE", options->file, "The PDF")->required()->type_name("");
-    command->add_option("--pages", options->pages, "Pages whose links --links-xml prints")
-        ->type_name("RANGE")
-        ->capture_default_str();
+    auto* pages
+        = command->add_option("--pages", options->pages, "Pages whose links --links-xml prints")
+              ->type_name("RANGE")
+              ->capture_default_str();
     options->passwordOptions.addTo(*command);
     auto* json = command->add_flag("--json", options->json, "Write JSON");
     auto* links = command->add_flag("--links-xml", options->linksXml, "Write the links as XML");
@@ -179,6 +180,7 @@ void addInspectCommand(CLI::App& program, Action& chosen)
         ->excludes(json)
         ->excludes(links);
     links->excludes(json);
+    pages->needs(links);
     command->callback([&chosen, options] { chosen = [options] { return inspect(*options); }; });
 }
 

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Interrupt.h"
 
+#include "cli/ExitCode.h"
+
 #include <csignal>
+
+using namespace Qt::StringLiterals;
 
 namespace leafcast::Interrupt {
 
@@ -14,16 +18,24 @@ namespace {
         requested = 1;
     }
 
+    void listenTo(int signalNumber)
+    {
+        struct sigaction earlier { };
+        sigaction(signalNumber, nullptr, &earlier);
+        if (earlier.sa_handler == SIG_IGN)
+            return;
+        struct sigaction action { };
+        action.sa_handler = remember;
+        action.sa_flags = static_cast<int>(SA_RESETHAND);
+        sigaction(signalNumber, &action, nullptr);
+    }
+
 } // namespace
 
 void listen()
 {
-    struct sigaction action { };
-    action.sa_handler = remember;
-    action.sa_flags = static_cast<int>(SA_RESETHAND);
-    sigaction(SIGINT, &action, nullptr);
-    sigaction(SIGTERM, &action, nullptr);
-    sigaction(SIGHUP, &action, nullptr);
+    for (const int signalNumber : { SIGINT, SIGTERM, SIGHUP })
+        listenTo(signalNumber);
     // A reader of ours that went away is an error of a write, not the end.
     std::signal(SIGPIPE, SIG_IGN);
 }
@@ -31,6 +43,12 @@ void listen()
 bool isRequested()
 {
     return requested != 0;
+}
+
+void endIfRequested(const QString& consequence)
+{
+    if (isRequested())
+        throw CommandFailure(ExitCode::Interrupted, u"interrupted; %1"_s.arg(consequence));
 }
 
 } // namespace leafcast::Interrupt

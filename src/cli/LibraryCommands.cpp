@@ -25,7 +25,7 @@ namespace {
 
     ExitCode listTemplates(bool json)
     {
-        print(FlashTemplate::availableTemplates(), json);
+        print(templateNames(), json);
         return ExitCode::Complete;
     }
 

@@ -1,15 +1,37 @@
 // SPDX-License-Identifier: MIT
 #include "cli/LogOptions.h"
 
+#include "base/FileSteps.h"
 #include "base/LogConfiguration.h"
 #include "base/ResourceFolder.h"
 #include "cli/Command.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
 namespace leafcast {
+
+namespace {
+
+    void requireWritable(const QString& path)
+    {
+        FileSteps::makeFolders(QFileInfo(path).path());
+        QFile file(path);
+        if (!file.open(QIODevice::Append))
+            throw CommandFailure(ExitCode::OutputNotWritable,
+                u"the log file %1 can't be written: %2"_s.arg(path, file.errorString()));
+    }
+
+    void logTo(const QString& path)
+    {
+        requireWritable(path);
+        LogConfiguration::configureFromFile(
+            ResourceFolder::pathForResource(u"logging"_s, u"properties"_s), path);
+    }
+
+} // namespace
 
 void LogOptions::addTo(CLI::App& program)
 {
@@ -20,9 +42,7 @@ void LogOptions::addTo(CLI::App& program)
 void LogOptions::configure() const
 {
     if (!logFile.empty())
-        LogConfiguration::configureFromFile(
-            ResourceFolder::pathForResource(u"logging"_s, u"properties"_s),
-            QFileInfo(pathFromArgument(logFile)).absoluteFilePath());
+        logTo(QFileInfo(pathFromArgument(logFile)).absoluteFilePath());
     if (verbose)
         LogConfiguration::addStandardErrorSink(LogLevel::Warn);
 }

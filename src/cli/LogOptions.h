@@ -11,6 +11,7 @@ struct LogOptions {
     std::string logFile;
 
     void addTo(CLI::App& program);
+    /// Throws CommandFailure for a log file that can't be written.
     void configure() const;
 };
 

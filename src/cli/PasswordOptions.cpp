@@ -27,15 +27,17 @@ namespace {
 
 void PasswordOptions::addTo(CLI::App& command)
 {
-    command.add_option("--password", password, "Password of a locked PDF (Env:LEAFCAST_PASSWORD)");
+    auto* typed = command.add_option(
+        "--password", password, "Password of a locked PDF (Env:LEAFCAST_PASSWORD)");
     command.add_option("--password-file", file, "File whose first line is the password")
-        ->type_name("FILE");
+        ->type_name("FILE")
+        ->excludes(typed);
 }
 
 QString PasswordOptions::chosen() const
 {
-    if (!password.empty())
-        return fromArgument(password);
+    if (password)
+        return fromArgument(*password);
     return file.empty() ? qEnvironmentVariable("LEAFCAST_PASSWORD")
                         : firstLineOf(pathFromArgument(file));
 }

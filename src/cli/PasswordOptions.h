@@ -2,13 +2,14 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <optional>
 #include <QString>
 
 namespace leafcast {
 
 /// The ways to hand over a PDF's password.
 struct PasswordOptions {
-    std::string password;
+    std::optional<std::string> password;
     std::string file;
 
     void addTo(CLI::App& command);

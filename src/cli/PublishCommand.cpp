@@ -69,7 +69,12 @@ namespace {
 
     void openBook(const QString& page)
     {
-        if (!QProcess::startDetached(u"xdg-open"_s, { page }))
+        QProcess opener;
+        opener.setProgram(u"xdg-open"_s);
+        opener.setArguments({ page });
+        opener.setStandardOutputFile(QProcess::nullDevice());
+        opener.setStandardErrorFile(QProcess::nullDevice());
+        if (!opener.startDetached())
             Console::sayError(u"can't open %1: xdg-open is not installed"_s.arg(page));
     }
 

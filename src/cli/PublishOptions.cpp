@@ -21,15 +21,22 @@ namespace {
         return levels;
     }
 
+    /// The help names the range where it is not obvious.
+    CLI::Validator between(int lowest, int highest)
+    {
+        return CLI::Range(lowest, highest).description("");
+    }
+
     void addPageOptions(PublishOptions& options, CLI::App& command)
     {
         command.add_option("--pages", options.pages, "Pages to take, such as 1-3,7")
             ->type_name("RANGE")
             ->capture_default_str();
         command
-            .add_option(
-                "--quality", options.qualityLevel, "0 to 4, or best, high, medium, low, smallest")
-            ->transform(CLI::CheckedTransformer(levelsByName(), CLI::ignore_case).description(""))
+            .add_option("--quality", options.qualityLevel,
+                "Of a PDF's pages: 0 to 4, or best, high, medium, low, smallest")
+            ->transform(CLI::Transformer(levelsByName(), CLI::ignore_case).description(""))
+            ->check(between(0, static_cast<int>(importQualities.size()) - 1))
             ->type_name("LEVEL")
             ->envname("LEAFCAST_QUALITY")
             ->capture_default_str();
@@ -48,18 +55,20 @@ namespace {
 
     void addWorkOptions(PublishOptions& options, CLI::App& command)
     {
-        command.add_option("--jobs", options.jobs, "Pages drawn at once [one a processor core]")
-            ->check(CLI::Range(1, 64))
+        command
+            .add_option(
+                "--jobs", options.jobs, "Pages drawn at once, 1 to 64 [one a processor core]")
+            ->check(between(1, 64))
             ->envname("LEAFCAST_JOBS");
         command
             .add_option(
                 "--page-seconds", options.limits.pageSeconds, "Give up on a page after so long")
-            ->check(CLI::Range(1, 3600))
+            ->check(between(1, 3600))
             ->capture_default_str();
         command
             .add_option("--page-memory", options.limits.memoryMebibytes,
                 "Memory of a page's worker, in MiB")
-            ->check(CLI::Range(128, 65536))
+            ->check(between(128, 65536))
             ->capture_default_str();
     }
 
@@ -74,9 +83,10 @@ namespace {
     QString fileName(const std::string& name)
     {
         QString text = fromArgument(name);
-        if (text.contains(u'/') || QFileInfo(text).completeBaseName().isEmpty())
+        if (text.contains(u'/') || text.startsWith(u'.'))
             throw CommandFailure(ExitCode::WrongUsage,
-                u"--name %1: it must be a file name without a folder"_s.arg(text));
+                u"--name %1: it must be a file name without a folder and without a dot in front"_s
+                    .arg(text));
         return text;
     }
 

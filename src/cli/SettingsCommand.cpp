@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Command.h"
 #include "cli/Console.h"
+#include "cli/FileReason.h"
 #include "cli/TemplateChoice.h"
 #include "templates/FlashTemplatePropertyType.h"
 
@@ -18,7 +19,7 @@ namespace {
     struct SettingsOptions {
         TemplateOptions templateOptions;
         std::string file;
-        std::string output;
+        std::optional<std::string> output;
         bool json = false;
     };
 
@@ -79,17 +80,6 @@ namespace {
         return ExitCode::Complete;
     }
 
-    QString whyUnwritable(const QString& path)
-    {
-        const QFileInfo folder(QFileInfo(path).absolutePath());
-        if (!folder.isDir())
-            return u"the folder %1 does not exist"_s.arg(folder.filePath());
-        if (QFileInfo(path).isDir())
-            return u"it is a folder"_s;
-        return folder.isWritable() ? u"the disk is full or failing"_s
-                                   : u"its folder is read-only"_s;
-    }
-
     void exportTo(const FlashTemplate& flashTemplate, const QString& path)
     {
         if (!flashTemplate.exportPropertiesSettingsTo(path))
@@ -97,16 +87,18 @@ namespace {
                 u"the settings file %1 can't be written: %2"_s.arg(path, whyUnwritable(path)));
     }
 
-    // A settings file's name gets the extension that the open panels of other people's programs
-    // look for.
-    QString withExtension(const QString& path)
+    /// The file to write: ".txt", the extension of settings files, is added to a name without one.
+    QString settingsFile(const std::string& typed)
     {
+        const QString path = pathFromArgument(typed);
+        if (path.isEmpty())
+            throw CommandFailure(ExitCode::WrongUsage, u"the settings file has no name"_s);
         return QFileInfo(path).suffix().isEmpty() ? path + u".txt"_s : path;
     }
 
     ExitCode exportSettings(const SettingsOptions& options)
     {
-        const QString path = withExtension(pathFromArgument(options.file));
+        const QString path = settingsFile(options.file);
         exportTo(*load(options), path);
         Console::writeLine(path);
         return ExitCode::Complete;
@@ -142,8 +134,8 @@ namespace {
             if (before.at(i) != after.at(i))
                 Console::writeLine(u"%1: %2 -> %3"_s.arg(
                     after.at(i).first, before.at(i).second, after.at(i).second));
-        if (!options.output.empty())
-            exportTo(*flashTemplate, withExtension(pathFromArgument(options.output)));
+        if (options.output)
+            exportTo(*flashTemplate, settingsFile(*options.output));
         return ExitCode::Complete;
     }
 
@@ -181,8 +173,8 @@ namespace {
         CLI::App* part = addPart(parent, "import", "Try a settings file: show what it changes",
             options, chosen, importSettings);
         part->add_option("FILE", options->file, "Settings file to read")->required()->type_name("");
-        part->add_option(
-            "--output", options->output, "Write the values that result to a settings file");
+        part->add_option("--output", options->output, "Settings file to write the result to")
+            ->type_name("FILE");
     }
 
 } // namespace

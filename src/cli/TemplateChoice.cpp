@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "cli/TemplateChoice.h"
 
+#include "base/ResourceFolder.h"
 #include "cli/Command.h"
+#include "cli/FileReason.h"
 #include "templates/PropertyValueCheck.h"
-
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -36,14 +36,6 @@ namespace {
             throw CommandFailure(ExitCode::InputUnreadable,
                 u"the style \"%1\" can't be used: %2/tmplSetting.txt can't be read"_s.arg(
                     styleName, FlashTemplate::stylePathFor(flashTemplate.tmplName(), styleName)));
-    }
-
-    QString whyUnreadable(const QString& path)
-    {
-        const QFileInfo info(path);
-        if (!info.exists())
-            return u"it does not exist"_s;
-        return info.isDir() ? u"it is a folder"_s : u"it can't be read"_s;
     }
 
     [[noreturn]] void refuseValue(
@@ -100,7 +92,8 @@ void applySettingsFile(FlashTemplate& flashTemplate, const QString& path, QStrin
     const SettingsImportReport report = flashTemplate.importPropertiesSettingsFrom(path);
     if (!report.readable)
         throw CommandFailure(ExitCode::InputUnreadable,
-            u"the settings file %1 can't be used: %2"_s.arg(path, whyUnreadable(path)));
+            u"the settings file %1 can't be used: %2"_s.arg(
+                path, whyUnreadable(path, u"it can't be read"_s)));
     if (report.recordCount == 0)
         throw CommandFailure(ExitCode::InputUnreadable,
             u"the settings file %1 can't be used: no line of it has the form KEY=VALUE"_s.arg(
@@ -113,12 +106,21 @@ void applySettingsFile(FlashTemplate& flashTemplate, const QString& path, QStrin
                 .arg(path, key, flashTemplate.tmplName()));
 }
 
-void requireTemplate(const QString& templateName)
+QStringList templateNames()
 {
     const QStringList names = FlashTemplate::availableTemplates();
+    if (names.isEmpty())
+        throw CommandFailure(ExitCode::InputUnreadable,
+            u"there are no templates in the resource folder %1"_s.arg(ResourceFolder::path()));
+    return names;
+}
+
+void requireTemplate(const QString& templateName)
+{
+    const QStringList names = templateNames();
     if (!names.contains(templateName))
         throw CommandFailure(ExitCode::WrongUsage,
-            u"there is no template \"%1\"; there are: %2"_s.arg(templateName, listed(names)));
+            u"there is no template \"%1\"; there are: %2"_s.arg(templateName, names.join(u", "_s)));
 }
 
 std::shared_ptr<FlashTemplate> loadChosenTemplate(

@@ -28,6 +28,9 @@ std::shared_ptr<FlashTemplate> loadChosenTemplate(
 /// CommandFailure.
 void applySettingsFile(FlashTemplate& flashTemplate, const QString& path, QStringList& warnings);
 
+/// Throws CommandFailure when there are none.
+QStringList templateNames();
+
 /// Throws CommandFailure when there is no template of that name.
 void requireTemplate(const QString& templateName);
 

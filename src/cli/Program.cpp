@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Program.h"
+
+#include "cli/Command.h"
+#include "cli/Console.h"
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast {
+
+namespace {
+
+    constexpr const char* footer = R"(With every command:
+  -v,--verbose            --log-file FILE
+
+Exit status:
+  0  complete             3  input unreadable
+  1  something missing    4  output not writable
+  2  wrong usage          5  password needed or wrong    130  interrupted)";
+
+    /// Names in the usage line too what an option's own text names beside the option.
+    class HelpText : public CLI::Formatter {
+    public:
+        std::string make_option_usage(const CLI::Option* option) const override
+        {
+            return option->get_option_text().empty()
+                ? CLI::Formatter::make_option_usage(option)
+                : option->get_name() + option->get_option_text();
+        }
+    };
+
+    struct TypedCommand {
+        const CLI::App* command;
+        QString line; // such as "leafcast settings show"
+    };
+
+    TypedCommand typedCommand(const CLI::App& program)
+    {
+        TypedCommand typed{ &program, QString::fromStdString(program.get_name()) };
+        while (!typed.command->get_subcommands().empty()) {
+            typed.command = typed.command->get_subcommands().front();
+            typed.line += u' ' + QString::fromStdString(typed.command->get_name());
+        }
+        return typed;
+    }
+
+    QString usageProblem(const CLI::App& program, const CLI::ParseError& error)
+    {
+        const TypedCommand typed = typedCommand(program);
+        const auto unknown = program.remaining(true);
+        const bool wantsCommand = typed.command->get_require_subcommand_min() > 0;
+        const QString problem = wantsCommand && !unknown.empty()
+            ? u"there is no command \"%1\""_s.arg(QString::fromStdString(unknown.front()))
+            : withoutGuards(QString::fromUtf8(error.what()));
+        return u"%1; see: %2 --help"_s.arg(problem, typed.line);
+    }
+
+} // namespace
+
+void describeProgram(CLI::App& program)
+{
+    program.name("leafcast");
+    program.description("Turns a PDF into a page-turning book that any browser opens.");
+    program.set_version_flag("--version", "leafcast " LEAFCAST_VERSION);
+    program.require_subcommand(1);
+    program.fallthrough();
+    program.footer(footer);
+    program.formatter(std::make_shared<HelpText>());
+}
+
+std::optional<int> parseArguments(CLI::App& program, int argc, char** argv)
+try {
+    program.parse(protectedArguments(argc, argv));
+    return std::nullopt;
+} catch (const CLI::Success& helpOrVersion) {
+    return program.exit(helpOrVersion);
+} catch (const CLI::ParseError& error) {
+    Console::sayError(usageProblem(program, error));
+    return static_cast<int>(ExitCode::WrongUsage);
+}
+
+} // namespace leafcast
