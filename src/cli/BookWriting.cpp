@@ -2,7 +2,9 @@
 #include "cli/BookWriting.h"
 
 #include "cli/Command.h"
+#include "cli/Console.h"
 #include "cli/Interrupt.h"
+#include "cli/OutputLock.h"
 #include "cli/ShownProgress.h"
 #include "cli/WatchedWork.h"
 #include "publish/BookCheck.h"
@@ -15,6 +17,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QThread>
 
 using namespace Qt::StringLiterals;
 
@@ -83,9 +86,29 @@ namespace {
             .cancel = [&] { writer.flashPageSource()->setStop(true); }
         }.run();
         report.writeSeconds = static_cast<double>(clock.elapsed()) / 1000;
-        if (Interrupt::isRequested())
-            throw CommandFailure(ExitCode::Interrupted,
-                u"interrupted; the book in %1 may be incomplete"_s.arg(report.output));
+        Interrupt::endIfRequested(u"the book in %1 may be incomplete"_s.arg(report.output));
+    }
+
+    void waitFor(const OutputLock& lock, const BookParts& parts)
+    {
+        constexpr int lookMilliseconds = 50;
+        if (lock.take())
+            return;
+        if (!parts.options.quiet)
+            Console::say(
+                u"waiting for another program that writes into %1"_s.arg(parts.place.folder()));
+        while (!lock.take()) {
+            Interrupt::endIfRequested(u"nothing was written"_s);
+            QThread::msleep(lookMilliseconds);
+        }
+    }
+
+    QStringList pictures(const FlashPageSource& source)
+    {
+        QStringList files;
+        for (const auto& page : source.normalPages())
+            files.append(page->pageFilePath());
+        return files;
     }
 
     bool isReported(const PublishReport& report, int pageNumber)
@@ -97,10 +120,12 @@ namespace {
     void checkBook(const FlashBookOutput& writer, bool isPackage, PublishReport& report)
     {
         const BookCheck check(writer);
+        report.pageCount = static_cast<int>(
+            writer.flashPageSource()->normalPages().size() - check.pagesWithoutPicture.size());
         for (const int pageNumber : check.pagesWithoutPicture)
             if (!isReported(report, pageNumber))
                 report.missingPages.push_back(
-                    { pageNumber, u"its picture could not be copied into the book"_s });
+                    { pageNumber, u"the picture could not be copied into the book"_s });
         for (const QString& file : check.missingFiles)
             report.missingFiles.append(QDir(report.output).relativeFilePath(file));
         // A folder is read without them; a package is of little use.
@@ -126,11 +151,15 @@ namespace {
 
 void writeBook(const BookParts& parts, PublishReport& report)
 {
+    Interrupt::endIfRequested(u"nothing was written"_s);
     takePageSize(parts);
     const auto writer = makeWriter(parts);
     configure(*writer, parts);
+    parts.place.requireOutside(pictures(*parts.input.pageSource));
     parts.place.requireRoomFor(*writer);
     parts.place.makeFolder();
+    const OutputLock lock(parts.place.folder());
+    waitFor(lock, parts);
     report.title = title(parts);
     report.output = parts.place.bookPath();
     report.page = QFileInfo(writer->outputHTMLFileName()).absoluteFilePath();

@@ -47,10 +47,10 @@ namespace {
         return error ? std::nullopt : std::optional(static_cast<qint64>(space.available));
     }
 
+    /// Both canonical.
     bool isInside(const QString& path, const QString& folder)
     {
-        const QString canonical = QFileInfo(folder).canonicalFilePath();
-        return !canonical.isEmpty() && (path == canonical || path.startsWith(canonical + u'/'));
+        return path == folder || path.startsWith(folder + u'/');
     }
 
     [[noreturn]] void refuse(const QString& sentence)
@@ -117,12 +117,16 @@ QStringList OutputPlace::replacedFolders() const
 
 void OutputPlace::requireOutside(const QStringList& inputs) const
 {
-    for (const QString& input : inputs)
-        for (const QString& folder : replacedFolders())
-            if (isInside(QFileInfo(input).canonicalFilePath(), folder))
+    for (const QString& folder : replacedFolders()) {
+        const QString replaced = QFileInfo(folder).canonicalFilePath();
+        if (replaced.isEmpty())
+            continue;
+        for (const QString& input : inputs)
+            if (isInside(QFileInfo(input).canonicalFilePath(), replaced))
                 refuse(
                     u"%1 lies in %2, which the book would replace; copy it elsewhere first"_s.arg(
                         input, folder));
+    }
 }
 
 void OutputPlace::requireRoomFor(const FlashBookOutput& writer) const

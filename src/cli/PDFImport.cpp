@@ -2,6 +2,7 @@
 #include "cli/PDFImport.h"
 
 #include "cli/Command.h"
+#include "cli/Interrupt.h"
 #include "cli/ShownProgress.h"
 #include "cli/WatchedWork.h"
 #include "pages/import/ImportPDFOperation.h"
@@ -32,10 +33,7 @@ PageInput importPDF(const PublishOptions& options, const std::shared_ptr<PDFDocu
     WatchedWork{
         [&] { operation.main(); }, [&] { progress.show(); }, [&] { operation.cancel(); }
     }.run();
-    bar.clear();
-
-    if (operation.isCancelled())
-        throw CommandFailure(ExitCode::Interrupted, u"interrupted; nothing was written"_s);
+    Interrupt::endIfRequested(u"nothing was written"_s);
     if (!operation.flashPageSource())
         throw CommandFailure(ExitCode::InputUnreadable,
             u"the pages of %1 can't be imported"_s.arg(options.inputs().constFirst()));

@@ -9,11 +9,11 @@
 #include "cli/PDFImport.h"
 #include "pages/FlashPageSourceImg.h"
 #include "pages/FlashPageSourcePDF.h"
+#include "publish/ImageHeader.h"
 
 #include <algorithm>
 #include <QElapsedTimer>
 #include <QFileInfo>
-#include <QImageReader>
 
 using namespace Qt::StringLiterals;
 
@@ -39,6 +39,15 @@ namespace {
                     .arg(picture.height));
     }
 
+    void requireAPicture(const std::vector<PageReport>& pages, const QString& path)
+    {
+        const auto isWritten = [](const PageReport& page) { return page.picture.written; };
+        if (std::ranges::none_of(pages, isWritten))
+            throw CommandFailure(ExitCode::InputUnreadable,
+                u"no page of %1 can be drawn; of the first: %2"_s.arg(
+                    path, pages.front().picture.problem));
+    }
+
     void takeFirstPageSize(const PDFDocument& document, PageInput& input)
     {
         const auto page = document.pageAtIndex(0);
@@ -58,8 +67,10 @@ namespace {
         pageNumbers(fromArgument(options.pages), path, document->pageCount());
 
         PageInput input = importPDF(options, document);
-        for (const PageReport& page :
-            dynamic_cast<const FlashPageSourcePDF&>(*input.pageSource).pageReports())
+        const auto& pages
+            = dynamic_cast<const FlashPageSourcePDF&>(*input.pageSource).pageReports();
+        requireAPicture(pages, path);
+        for (const PageReport& page : pages)
             reportPage(page, report);
         takeFirstPageSize(*document, input);
         input.title = document->title().isEmpty() ? nameOfInput(path) : document->title();
@@ -83,7 +94,7 @@ namespace {
         }
         source->generateNormalPages();
 
-        const QSize size = QImageReader(source->pages().front()->pageFilePath()).size();
+        const QSize size = ImageHeader::sizeInPoints(source->pages().front()->pageFilePath());
         return { source, nullptr, nullptr, nameOfInput(options.inputs().constFirst()), size.width(),
             size.height() };
     }
@@ -106,7 +117,6 @@ PageInput readPages(const PublishOptions& options, PublishReport& report)
     clock.start();
     PageInput input = isAllImages(inputs) ? readImages(options, report) : readPDF(options, report);
     report.importSeconds = static_cast<double>(clock.elapsed()) / 1000;
-    report.pageCount = static_cast<int>(input.pageSource->pages().size());
     return input;
 }
 

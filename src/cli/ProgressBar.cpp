@@ -40,7 +40,8 @@ ProgressBar::ProgressBar(const QString& unit, Visibility visibility)
 
 ProgressBar::~ProgressBar()
 {
-    clear();
+    if (iDrawn)
+        fputs("\r\033[K", stderr);
 }
 
 QString ProgressBar::line(const QString& unit, int done, int total, double seconds, int columns)
@@ -62,15 +63,7 @@ void ProgressBar::show(int done, int total)
     const double seconds = static_cast<double>(iClock.elapsed()) / 1000;
     const QByteArray text = line(iUnit, done, total, seconds, Console::width()).toLocal8Bit();
     fprintf(stderr, "\r\033[K%s", text.constData());
-    fflush(stderr);
     iDrawn = true;
-}
-
-void ProgressBar::clear()
-{
-    if (iDrawn)
-        fputs("\r\033[K", stderr);
-    iDrawn = false;
 }
 
 } // namespace leafcast

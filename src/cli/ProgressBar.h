@@ -6,8 +6,8 @@
 
 namespace leafcast {
 
-/// One line on standard error: bar, count, rate, time left. Draws nothing when standard error is no
-/// terminal.
+/// One line on standard error: bar, count, rate, time left; gone when the bar is. Draws nothing
+/// when standard error is no terminal.
 class ProgressBar {
 public:
     enum class Visibility { WhenTerminal, Never };
@@ -18,7 +18,6 @@ public:
     ProgressBar& operator=(const ProgressBar&) = delete;
 
     void show(int done, int total);
-    void clear();
 
     /// The line as drawn into a given number of columns; apart so that it can be tested.
     static QString line(const QString& unit, int done, int total, double seconds, int columns);

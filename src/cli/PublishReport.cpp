@@ -18,7 +18,7 @@ namespace {
 
     constexpr int formatVersion = 1;
 
-    double milliseconds(double seconds)
+    double roundedToMilliseconds(double seconds)
     {
         return std::round(seconds * 1000) / 1000;
     }
@@ -35,9 +35,9 @@ namespace {
 
 QByteArray PublishReport::asJson() const
 {
-    const QJsonObject times{ { u"import"_s, milliseconds(importSeconds) },
-        { u"write"_s, milliseconds(writeSeconds) },
-        { u"total"_s, milliseconds(importSeconds + writeSeconds) } };
+    const QJsonObject times{ { u"import"_s, roundedToMilliseconds(importSeconds) },
+        { u"write"_s, roundedToMilliseconds(writeSeconds) },
+        { u"total"_s, roundedToMilliseconds(importSeconds + writeSeconds) } };
     return QJsonDocument(QJsonObject{
                              { u"version"_s, formatVersion },
                              { u"complete"_s, isComplete() },

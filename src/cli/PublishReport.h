@@ -19,7 +19,7 @@ struct PublishReport {
     QString output; // the folder or the package
     QString page; // the file to open
     QString title; // plain text
-    int pageCount = 0;
+    int pageCount = 0; // of the pages that the book has
     qint64 bytes = 0; // of the page pictures
     std::vector<MissingPage> missingPages;
     QStringList missingFiles; // of the book, relative to output
