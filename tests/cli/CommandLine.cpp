@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CommandLine.h"
 
+#include "base/FileDescriptor.h"
+
+#include <fcntl.h>
 #include <QImage>
 #include <QJsonDocument>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QThread>
+#include <sys/file.h>
 
 using namespace Qt::StringLiterals;
 
@@ -59,18 +63,43 @@ Outcome CommandLineTest::run(const QStringList& arguments, const QStringList& va
 {
     QProcess process;
     prepare(process, iFolder.path(), variables);
-    process.start(QStringLiteral(LEAFCAST_PROGRAM), arguments);
+    process.start(program, arguments);
     return finish(process);
 }
 
-Outcome CommandLineTest::runInterrupted(const QStringList& arguments) const
+Outcome CommandLineTest::runRedirected(
+    const QString& redirections, const QStringList& arguments) const
 {
     QProcess process;
     prepare(process, iFolder.path(), {});
-    process.start(QStringLiteral(LEAFCAST_PROGRAM), arguments);
+    const QString line = u"exec \"$0\" \"$@\" "_s + redirections;
+    process.start(u"sh"_s, QStringList{ u"-c"_s, line, program } + arguments);
+    return finish(process);
+}
+
+Outcome CommandLineTest::runSignalled(int signalNumber, const QStringList& command) const
+{
+    QProcess process;
+    prepare(process, iFolder.path(), {});
+    process.start(command.first(), command.sliced(1));
     EXPECT_TRUE(process.waitForStarted());
     waitForWorkers(process.processId());
-    kill(static_cast<pid_t>(process.processId()), SIGINT);
+    kill(static_cast<pid_t>(process.processId()), signalNumber);
+    return finish(process);
+}
+
+Outcome CommandLineTest::runBesideAnother(const QString& folder, const QStringList& arguments) const
+{
+    QDir().mkpath(at(folder));
+    FileDescriptor other(open(QFile::encodeName(at(folder)).constData(), O_RDONLY | O_CLOEXEC));
+    EXPECT_EQ(flock(other.get(), LOCK_EX), 0);
+    QProcess process;
+    prepare(process, iFolder.path(), {});
+    process.setReadChannel(QProcess::StandardError);
+    process.start(program, arguments);
+    EXPECT_TRUE(process.waitForReadyRead(patienceMilliseconds));
+    EXPECT_TRUE(QDir(at(folder)).isEmpty());
+    other.close();
     return finish(process);
 }
 

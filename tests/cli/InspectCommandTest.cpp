@@ -17,15 +17,15 @@ protected:
         builder.addURLLink(0, { 60, 700, 180, 740 }, "https://leaves.example/");
         builder.addPageLink(1, { 0, 0, 10, 10 }, 0);
         builder.setOutline({ { u"Wood"_s, builder.explicitDestination(1), {} } });
-        builder.setTitle(u"Trees"_s);
+        builder.setTitle(u"Tre\u009Bes"_s);
         writePDF(u"in.pdf"_s, builder);
     }
 };
 
 TEST_F(InspectCommand, TellsWhatThePDFHolds)
 {
-    const QJsonObject found = run({ u"inspect"_s, u"in.pdf"_s, u"--json"_s }).json();
-    EXPECT_EQ(found[u"title"_s], u"Trees"_s);
+    const QJsonObject found = run("inspect in.pdf --json").json();
+    EXPECT_EQ(found[u"title"_s], u"Tre\u009Bes"_s);
     EXPECT_EQ(found[u"webLinks"_s], 1);
     EXPECT_EQ(found[u"pageLinks"_s], 1);
     EXPECT_EQ(found[u"outlineEntries"_s], 1);
@@ -33,7 +33,8 @@ TEST_F(InspectCommand, TellsWhatThePDFHolds)
     EXPECT_EQ(found[u"pages"_s][1][u"width"_s], 800);
     EXPECT_EQ(found[u"pages"_s][1][u"rotation"_s], 90);
 
-    const Outcome text = run({ u"inspect"_s, u"in.pdf"_s });
+    const Outcome text = run("inspect in.pdf");
+    EXPECT_TRUE(text.output.contains("Tre\uFFFDes\n")) << "a terminal would obey it";
     EXPECT_TRUE(text.output.contains("1: 600 x 800 points\n")) << text.output.toStdString();
     EXPECT_TRUE(text.output.contains("2: 800 x 600 points, rotated by 90\n"))
         << text.output.toStdString();
@@ -41,10 +42,9 @@ TEST_F(InspectCommand, TellsWhatThePDFHolds)
 
 TEST_F(InspectCommand, PrintsLinksAndOutlineAsXml)
 {
-    EXPECT_EQ(run({ u"inspect"_s, u"in.pdf"_s, u"--outline-xml"_s }).output,
+    EXPECT_EQ(run("inspect in.pdf --outline-xml").output,
         "<ols><o><c>Wood</c><p>2</p><l>1</l><ci/></o></ols>\n");
-    const QByteArray links
-        = run({ u"inspect"_s, u"in.pdf"_s, u"--links-xml"_s, u"--pages"_s, u"1"_s }).output;
+    const QByteArray links = run("inspect in.pdf --links-xml --pages 1").output;
     EXPECT_TRUE(links.contains("<url>https://leaves.example/</url>")) << links.toStdString();
     EXPECT_TRUE(links.contains(
         "<location x=\"0.100000\" y=\"0.075000\" width=\"0.200000\" height=\"0.050000\"/>"))
@@ -53,12 +53,10 @@ TEST_F(InspectCommand, PrintsLinksAndOutlineAsXml)
 
 TEST_F(InspectCommand, RefusesWhatItCannotRead)
 {
-    EXPECT_EQ(run({ u"inspect"_s, u"missing.pdf"_s }).status, 3);
-    EXPECT_EQ(run({ u"inspect"_s }).status, 2);
-    EXPECT_EQ(run({ u"inspect"_s, u"in.pdf"_s, u"--links-xml"_s, u"--pages"_s, u"1-2000000000"_s })
-                  .status,
-        2);
-    EXPECT_EQ(run({ u"inspect"_s, u"in.pdf"_s, u"--json"_s, u"--outline-xml"_s }).status, 2);
+    EXPECT_EQ(run("inspect missing.pdf").status, 3);
+    EXPECT_EQ(run("inspect").status, 2);
+    EXPECT_EQ(run("inspect in.pdf --links-xml --pages 1-2000000000").status, 2);
+    EXPECT_EQ(run("inspect in.pdf --json --outline-xml").status, 2);
 }
 
 } // namespace leafcast

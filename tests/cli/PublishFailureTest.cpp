@@ -15,16 +15,16 @@ namespace leafcast {
 class PublishFailure : public CommandLineTest {
 protected:
     void expectFailure(
-        const QStringList& arguments, int status, const QList<QByteArray>& named) const
+        const QByteArray& arguments, int status, const QList<QByteArray>& named) const
     {
-        const Outcome outcome = run(QStringList{ u"publish"_s } + arguments);
+        const Outcome outcome = run("publish " + arguments);
         EXPECT_EQ(outcome.status, status) << outcome.errors.toStdString();
         EXPECT_EQ(outcome.errors.count('\n'), 1) << outcome.errors.toStdString();
         for (const QByteArray& word : named)
             EXPECT_TRUE(outcome.errors.contains(word))
                 << word.toStdString() << " in " << outcome.errors.toStdString();
         EXPECT_TRUE(outcome.output.isEmpty()) << outcome.output.toStdString();
-        EXPECT_FALSE(QFileInfo::exists(at(u"book"_s)));
+        EXPECT_FALSE(exists("book"));
     }
 };
 
@@ -36,13 +36,15 @@ TEST_F(PublishFailure, InputsThatAreNoReadablePDF)
     QDir(iFolder.path()).mkpath(u"nothing"_s);
     writeTestFile(at(u"broken.jpg"_s), "no picture");
 
-    expectFailure({ u"missing.pdf"_s, u"book"_s }, 3, { "missing.pdf", "exist" });
-    expectFailure({ u"empty.pdf"_s, u"book"_s }, 3, { "empty.pdf", "empty" });
-    expectFailure({ u"text.pdf"_s, u"book"_s }, 3, { "text.pdf", "not a PDF" });
-    expectFailure({ u"none.pdf"_s, u"book"_s }, 3, { "none.pdf", "no pages" });
-    expectFailure({ u"nothing"_s, u"book"_s }, 3, { "nothing", "no images" });
-    expectFailure({ u"missing.jpg"_s, u"book"_s }, 3, { "missing.jpg", "exist" });
-    expectFailure({ u"broken.jpg"_s, u"book"_s }, 3, { "broken.jpg" });
+    expectFailure("missing.pdf book", 3, { "missing.pdf", "exist" });
+    expectFailure("empty.pdf book", 3, { "empty.pdf", "empty" });
+    expectFailure("text.pdf book", 3, { "text.pdf", "not a PDF" });
+    expectFailure("none.pdf book", 3, { "none.pdf", "no pages" });
+    writePicture(u"1.jpg"_s, 30, 40);
+    expectFailure("nothing book", 3, { "nothing", "no images" });
+    expectFailure("1.jpg nothing book", 3, { "nothing", "no images" });
+    expectFailure("missing.jpg book", 3, { "missing.jpg", "exist" });
+    expectFailure("broken.jpg book", 3, { "broken.jpg" });
 }
 
 TEST_F(PublishFailure, LockedDocuments)
@@ -54,52 +56,35 @@ TEST_F(PublishFailure, LockedDocuments)
         0);
     writeTestFile(at(u"password.txt"_s), "secret\n");
 
-    expectFailure({ u"locked.pdf"_s, u"book"_s }, 5, { "locked.pdf", "password" });
-    expectFailure(
-        { u"locked.pdf"_s, u"book"_s, u"--password"_s, u"wrong"_s }, 5, { "locked.pdf", "wrong" });
-    expectFailure({ u"locked.pdf"_s, u"book"_s, u"--password-file"_s, u"missing.txt"_s }, 3,
-        { "missing.txt" });
-    EXPECT_EQ(
-        run({ u"publish"_s, u"locked.pdf"_s, u"a"_s, u"--password"_s, u"secret"_s }).status, 0);
-    EXPECT_EQ(
-        run({ u"publish"_s, u"locked.pdf"_s, u"b"_s, u"--password-file"_s, u"password.txt"_s })
-            .status,
-        0);
-    EXPECT_EQ(
-        run({ u"publish"_s, u"locked.pdf"_s, u"c"_s }, { u"LEAFCAST_PASSWORD=secret"_s }).status,
-        0);
+    expectFailure("locked.pdf book", 5, { "locked.pdf", "password" });
+    expectFailure("locked.pdf book --password wrong", 5, { "locked.pdf", "wrong" });
+    expectFailure("locked.pdf book --password-file missing.txt", 3, { "missing.txt" });
+    EXPECT_EQ(run("publish locked.pdf a --password secret").status, 0);
+    EXPECT_EQ(run("publish locked.pdf b --password-file password.txt").status, 0);
+    EXPECT_EQ(run("publish locked.pdf c", { u"LEAFCAST_PASSWORD=secret"_s }).status, 0);
 }
 
 TEST_F(PublishFailure, PageRangesThatNameNoPage)
 {
     writeNumberedPDF(u"in.pdf"_s, 4);
-    expectFailure(
-        { u"in.pdf"_s, u"book"_s, u"--pages"_s, u"5-9"_s }, 2, { "in.pdf", "5-9", "4 pages" });
-    expectFailure({ u"in.pdf"_s, u"book"_s, u"--pages"_s, u"abc"_s }, 2, { "in.pdf", "abc" });
-    expectFailure(
-        { u"in.pdf"_s, u"book"_s, u"--pages"_s, u"1-2000000000"_s }, 2, { "1-2000000000" });
+    expectFailure("in.pdf book --pages 5-9", 2, { "in.pdf", "5-9", "4 pages" });
+    expectFailure("in.pdf book --pages abc", 2, { "in.pdf", "abc" });
+    expectFailure("in.pdf book --pages 1-2000000000", 2, { "1-2000000000" });
 }
 
 TEST_F(PublishFailure, TemplatesStylesAndSettings)
 {
     writeNumberedPDF(u"in.pdf"_s, 1);
     writeTestFile(at(u"no-equals.txt"_s), "just words\n");
-    const QStringList base{ u"in.pdf"_s, u"book"_s };
-
-    expectFailure(base + QStringList{ u"--template"_s, u"glider"_s }, 2, { "glider", "float" });
-    expectFailure(base + QStringList{ u"--style"_s, u"Glitter"_s }, 2, { "Glitter", "Wall-line" });
-    expectFailure(
-        base + QStringList{ u"--settings"_s, u"missing.txt"_s }, 3, { "missing.txt", "exist" });
-    expectFailure(base + QStringList{ u"--settings"_s, u"no-equals.txt"_s }, 3,
-        { "no-equals.txt", "KEY=VALUE" });
-    expectFailure(base + QStringList{ u"--set"_s, u"noSuchKey=1"_s }, 2, { "noSuchKey" });
-    expectFailure(
-        base + QStringList{ u"--set"_s, u"turnDuration=soon"_s }, 2, { "turnDuration", "number" });
-    expectFailure(
-        base + QStringList{ u"--set"_s, u"viewMode=Triple"_s }, 2, { "viewMode", "Single" });
-    expectFailure(
-        base + QStringList{ u"--set"_s, u"LogoFile=missing.png"_s }, 3, { "missing.png" });
-    expectFailure(base + QStringList{ u"--name"_s, u"a/b"_s }, 2, { "a/b" });
+    expectFailure("in.pdf book --template glider", 2, { "glider", "float" });
+    expectFailure("in.pdf book --style Glitter", 2, { "Glitter", "Wall-line" });
+    expectFailure("in.pdf book --settings missing.txt", 3, { "missing.txt", "exist" });
+    expectFailure("in.pdf book --settings no-equals.txt", 3, { "no-equals.txt", "KEY=VALUE" });
+    expectFailure("in.pdf book --set noSuchKey=1", 2, { "noSuchKey" });
+    expectFailure("in.pdf book --set turnDuration=soon", 2, { "turnDuration", "number" });
+    expectFailure("in.pdf book --set viewMode=Triple", 2, { "viewMode", "Single" });
+    expectFailure("in.pdf book --set LogoFile=missing.png", 3, { "missing.png" });
+    expectFailure("in.pdf book --name a/b", 2, { "a/b" });
 }
 
 TEST_F(PublishFailure, DamagedTemplatesAndStyles)
@@ -113,93 +98,105 @@ TEST_F(PublishFailure, DamagedTemplatesAndStyles)
     writeTestFile(library + u"Templates/words/flashTemplate.xml"_s, "no template");
     const QStringList variables{ u"LEAFCAST_RESOURCES="_s + resources };
 
-    const auto expectNamed = [&](const QStringList& options, const QByteArray& file) {
-        const Outcome outcome
-            = run(QStringList{ u"publish"_s, u"in.pdf"_s, u"book"_s } + options, variables);
+    const auto expectNamed = [&](const QByteArray& options, const QByteArray& file) {
+        const Outcome outcome = run("publish in.pdf book " + options, variables);
         EXPECT_EQ(outcome.status, 3) << outcome.errors.toStdString();
         EXPECT_EQ(outcome.errors.count('\n'), 1);
         EXPECT_TRUE(outcome.errors.contains(file)) << outcome.errors.toStdString();
     };
-    expectNamed({ u"--style"_s, u"Night"_s }, "Night/tmplSetting.txt");
-    expectNamed({ u"--template"_s, u"torn"_s }, "torn/flashTemplate.xml, line 2");
-    expectNamed({ u"--template"_s, u"words"_s }, "words/flashTemplate.xml");
-    EXPECT_FALSE(QFileInfo::exists(at(u"book"_s)));
+    expectNamed("--style Night", "Night/tmplSetting.txt");
+    expectNamed("--template torn", "torn/flashTemplate.xml, line 2");
+    expectNamed("--template words", "words/flashTemplate.xml");
+    EXPECT_FALSE(exists("book"));
 }
 
-TEST_F(PublishFailure, ASettingsFileInUTF16IsRead)
+TEST_F(PublishFailure, SettingsFilesInOtherEncodingsAreRead)
 {
     writeNumberedPDF(u"in.pdf"_s, 1);
-    const QString text = u"\uFEFFbookTitle=Stra\u00DFe\n"_s;
+    const QString text = u"bookTitle=Stra\u00DFe\n"_s;
+    const QString marked = u'\uFEFF' + text;
     writeTestFile(at(u"utf16.txt"_s),
-        QByteArray(reinterpret_cast<const char*>(text.utf16()), text.size() * 2));
-    EXPECT_EQ(
-        run({ u"publish"_s, u"in.pdf"_s, u"book"_s, u"--settings"_s, u"utf16.txt"_s }).status, 0);
-    EXPECT_TRUE(readTestFile(at(u"book/javascript/main.js"_s))
-                    .contains("bookTitle:\"Stra\xC3\x9F"
-                              "e\""));
+        QByteArray(reinterpret_cast<const char*>(marked.utf16()), marked.size() * 2));
+    writeTestFile(at(u"latin1.txt"_s), text.toLatin1());
+    for (const QString& file : { u"utf16.txt"_s, u"latin1.txt"_s }) {
+        const Outcome outcome
+            = run({ u"publish"_s, u"in.pdf"_s, u"book"_s, u"--settings"_s, file });
+        EXPECT_EQ(outcome.status, 0) << outcome.errors.toStdString();
+        EXPECT_EQ(outcome.errors.contains(file.toUtf8()), file == u"latin1.txt"_s);
+        EXPECT_TRUE(
+            content("book/javascript/main.js").contains(u"bookTitle:\"Stra\u00DFe\""_s.toUtf8()));
+    }
 }
 
 TEST_F(PublishFailure, OutputsThatCannotBeWritten)
 {
     writeNumberedPDF(u"in.pdf"_s, 1);
     writeTestFile(at(u"file"_s), "kept");
-    expectFailure({ u"in.pdf"_s, u"file"_s }, 4, { "file" });
-    expectFailure({ u"in.pdf"_s, u"file/below"_s }, 4, { "file/below" });
-    expectFailure({ u"in.pdf"_s, u""_s }, 2, { "no name" });
-    EXPECT_EQ(readTestFile(at(u"file"_s)), "kept");
+    expectFailure("in.pdf file", 4, { "file" });
+    expectFailure("in.pdf file/below", 4, { "file/below" });
+    EXPECT_EQ(run({ u"publish"_s, u"in.pdf"_s, u""_s }).status, 2);
+    expectFailure("in.pdf book --log-file file/log", 4, { "file/log" });
+    EXPECT_EQ(content("file"), "kept");
 }
 
 TEST_F(PublishFailure, InputsThatTheOutputWouldReplace)
 {
     writePicture(u"book/files/page/1.jpg"_s, 30, 40);
     writePicture(u"out/Album.app/Contents/Resources/files/page/1.jpg"_s, 30, 40);
-    const auto refused = [this](const QStringList& arguments, const QString& kept) {
-        const Outcome outcome = run(QStringList{ u"publish"_s, u"--force"_s } + arguments);
+    const auto refused = [this](const QByteArray& arguments, const char* kept) {
+        const Outcome outcome = run("publish --force " + arguments);
         EXPECT_EQ(outcome.status, 4) << outcome.errors.toStdString();
         EXPECT_TRUE(outcome.errors.contains("would replace")) << outcome.errors.toStdString();
-        EXPECT_TRUE(QFileInfo::exists(at(kept)));
+        EXPECT_TRUE(exists(kept));
     };
-    refused({ u"book/files/page/1.jpg"_s, u"book"_s }, u"book/files/page/1.jpg"_s);
-    refused({ u"out/Album.app/Contents/Resources/files/page"_s, u"out"_s, u"--app"_s, u"--name"_s,
-                u"Album"_s },
-        u"out/Album.app/Contents/Resources/files/page/1.jpg"_s);
+    refused("book/files/page/1.jpg book", "book/files/page/1.jpg");
+    refused("out/Album.app/Contents/Resources/files/page out --app --name Album",
+        "out/Album.app/Contents/Resources/files/page/1.jpg");
+    QDir(iFolder.path()).mkpath(u"links"_s);
+    QFile::link(at(u"book/files/page/1.jpg"_s), at(u"links/2.jpg"_s));
+    refused("links book", "book/files/page/1.jpg");
 }
 
 TEST_F(PublishFailure, ValuesThatBreakTheScriptAreToldBeforehand)
 {
     writeNumberedPDF(u"in.pdf"_s, 1);
-    const Outcome outcome
-        = run({ u"publish"_s, u"in.pdf"_s, u"book"_s, u"--set"_s, u"bookTitle=He said \"hi\""_s });
+    const Outcome outcome = run("publish in.pdf book --set bookTitle=a\\b");
     EXPECT_TRUE(outcome.errors.contains("bookTitle")) << outcome.errors.toStdString();
-}
-
-TEST_F(PublishFailure, ASettingsFileInLatin1IsReadWithAWarning)
-{
-    writeNumberedPDF(u"in.pdf"_s, 1);
-    writeTestFile(at(u"latin1.txt"_s),
-        "bookTitle=Stra\xDF"
-        "e\n");
-    const Outcome outcome
-        = run({ u"publish"_s, u"in.pdf"_s, u"book"_s, u"--settings"_s, u"latin1.txt"_s });
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_TRUE(outcome.errors.contains("latin1.txt"));
-    EXPECT_TRUE(readTestFile(at(u"book/javascript/main.js"_s))
-                    .contains("bookTitle:\"Stra\xC3\x9F"
-                              "e\""));
 }
 
 TEST_F(PublishFailure, PagesThatFailAreNamedAndTheRestIsWritten)
 {
     writeNumberedPDF(u"in.pdf"_s, 2);
-    const Outcome outcome
-        = run({ u"publish"_s, u"in.pdf"_s, u"book"_s, u"--pages"_s, u"2-3"_s, u"--json"_s });
+    const Outcome outcome = run("publish in.pdf book --pages 2-3 --json");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_TRUE(outcome.errors.contains("page 3 is missing: "));
     const QJsonObject report = outcome.json();
     EXPECT_EQ(report[u"complete"_s], false);
+    EXPECT_EQ(report[u"pages"_s], 1);
     EXPECT_EQ(report[u"missingPages"_s][0][u"number"_s], 3);
     EXPECT_FALSE(report[u"missingPages"_s][0][u"reason"_s].toString().isEmpty());
-    EXPECT_TRUE(QFileInfo::exists(at(u"book/files/page/2.jpg"_s)));
+    EXPECT_TRUE(exists("book/files/page/2.jpg"));
+}
+
+TEST_F(PublishFailure, WithoutAnyPageThereIsNoBook)
+{
+    PDFBuilder builder;
+    builder.addPage();
+    builder.replaceObject(builder.pageObject(0), "null");
+    writePDF(u"in.pdf"_s, builder);
+    expectFailure("in.pdf book", 3, { "in.pdf", "no page" });
+}
+
+TEST_F(PublishFailure, StandardStreamsThatCannotBeUsed)
+{
+    writePicture(u"1.jpg"_s, 30, 40);
+    const QStringList publish{ u"publish"_s, u"1.jpg"_s, u"book"_s };
+    const Outcome full = runRedirected(u"> /dev/full"_s, publish);
+    EXPECT_EQ(full.status, 4);
+    EXPECT_TRUE(full.errors.contains("standard output")) << full.errors.toStdString();
+    EXPECT_EQ(runRedirected(u"<&- >&- 2>&-"_s, publish).status, 4);
+    EXPECT_EQ(runRedirected(u"| true"_s, publish).status, 0);
+    EXPECT_EQ(runRedirected(u"$(printf '\\344')"_s, publish).status, 2);
 }
 
 TEST_F(PublishFailure, ATruncatedPDFIsMendedAndSaidSoOrRefused)
@@ -208,11 +205,11 @@ TEST_F(PublishFailure, ATruncatedPDFIsMendedAndSaidSoOrRefused)
     writeTestFile(at(u"cut.pdf"_s), whole.left(whole.lastIndexOf("startxref")));
     writeTestFile(at(u"head.pdf"_s), whole.left(40));
 
-    expectFailure({ u"head.pdf"_s, u"book"_s }, 3, { "head.pdf", "damaged" });
-    const Outcome outcome = run({ u"publish"_s, u"cut.pdf"_s, u"book"_s });
+    expectFailure("head.pdf book", 3, { "head.pdf", "damaged" });
+    const Outcome outcome = run("publish cut.pdf book");
     EXPECT_EQ(outcome.status, 0) << outcome.errors.toStdString();
     EXPECT_TRUE(outcome.errors.contains("cut.pdf is damaged")) << outcome.errors.toStdString();
-    EXPECT_TRUE(QFileInfo::exists(at(u"book/files/page/5.jpg"_s)));
+    EXPECT_TRUE(exists("book/files/page/5.jpg"));
 }
 
 TEST_F(PublishFailure, AHugePageIsDrawnSmallerAndSaidSo)
@@ -220,7 +217,7 @@ TEST_F(PublishFailure, AHugePageIsDrawnSmallerAndSaidSo)
     PDFBuilder builder;
     builder.addPage({ .mediaBox = { 0, 0, 20000, 20000 } });
     writePDF(u"huge.pdf"_s, builder);
-    const Outcome outcome = run({ u"publish"_s, u"huge.pdf"_s, u"book"_s });
+    const Outcome outcome = run("publish huge.pdf book");
     EXPECT_EQ(outcome.status, 0) << outcome.errors.toStdString();
     EXPECT_TRUE(outcome.errors.contains("drawn smaller")) << outcome.errors.toStdString();
 }
