@@ -2,7 +2,6 @@
 #include "support/PDFBuilder.h"
 
 #include <QStringEncoder>
-#include <ranges>
 
 namespace leafcast {
 
@@ -91,7 +90,8 @@ void PDFBuilder::setOutline(const std::vector<OutlineEntry>& entries)
 QByteArray PDFBuilder::outlineLevel(const std::vector<OutlineEntry>& entries)
 {
     QByteArray next;
-    for (const OutlineEntry& entry : std::views::reverse(entries)) {
+    for (size_t i = entries.size(); i-- > 0;) {
+        const OutlineEntry& entry = entries[i];
         const QByteArray body = "<< /Title " + textString(entry.label) + ' ' + entry.target
             + outlineLevel(entry.children);
         const int object = addObject(body + (next.isEmpty() ? next : " /Next " + next) + " >>");
