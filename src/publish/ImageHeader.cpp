@@ -101,7 +101,10 @@ QSize sizeInPixels(const QString& path)
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     const QSize size = reader.size();
-    return size.isValid() ? size : QSize(0, 0);
+    if (!size.isValid())
+        return { 0, 0 };
+    return reader.transformation() & QImageIOHandler::TransformationRotate90 ? size.transposed()
+                                                                             : size;
 }
 
 QSize sizeInPoints(const QString& path)

@@ -30,4 +30,16 @@ TEST_F(ImageHeaderTest, TakesTheDensityIntoAccountAndTruncates)
         expectPoints(none, { 0, 0 });
 }
 
+TEST_F(ImageHeaderTest, MeasuresAPictureThatLiesOnItsSideAsItIsShown)
+{
+    QByteArray jpeg = picture({ 400, 300 });
+    const qsizetype behindJFIF = 20;
+    jpeg.insert(behindJFIF,
+        QByteArray::fromHex("ffe10022457869660000" // Exif
+                            "4d4d002a000000080001" // one entry
+                            "011200030000000100060000" // orientation 6: turned to the right
+                            "00000000"));
+    expectPoints(jpeg, { 300, 400 });
+}
+
 } // namespace leafcast
