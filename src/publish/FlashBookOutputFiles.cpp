@@ -29,6 +29,8 @@ void FlashBookOutput::prepaireNomalPage(const QString& folder)
     const QString base = folder.isEmpty() ? iSaveToFolder : folder;
     FileSteps::makeFolders(inResources(base, iNormalPageFolder));
     for (const auto& page : iFlashPageSource->normalPages()) {
+        if (iFlashPageSource->stop())
+            break;
         if (!page)
             continue;
         const QString copy = inResources(base, getNormalPageURL(*page));
