@@ -5,9 +5,12 @@
 #include "cli/ExitCode.h"
 #include "cli/FileReason.h"
 
+#include <algorithm>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QMap>
 
 using namespace Qt::StringLiterals;
 
@@ -68,6 +71,19 @@ namespace {
 bool isImageInput(const QString& path)
 {
     return QFileInfo(path).isDir() || hasImageExtension(path);
+}
+
+bool isCutOff(const QString& path)
+{
+    static const QMap<QByteArray, QByteArray> endMarks{ { "jpeg", "\xFF\xD9" }, { "png", "IEND" } };
+    // Some programs append data of their own.
+    constexpr qint64 tailSize = 16384;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray format = QImageReader::imageFormat(&file);
+    file.seek(std::max<qint64>(0, file.size() - tailSize));
+    return !file.readAll().contains(endMarks.value(format));
 }
 
 QStringList imagePaths(const QStringList& inputs)

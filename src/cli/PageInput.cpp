@@ -77,6 +77,14 @@ namespace {
         return input;
     }
 
+    void addPicture(const QString& path, FlashPageSourceImg& source, PublishReport& report)
+    {
+        source.addImgPageFromFile(path);
+        report.bytes += QFileInfo(path).size();
+        if (isCutOff(path))
+            report.warnings.append(u"the end of the image %1 is missing"_s.arg(path));
+    }
+
     PageInput readImages(const PublishOptions& options, PublishReport& report)
     {
         const QStringList paths = imagePaths(options.inputs());
@@ -89,8 +97,7 @@ namespace {
                     { number, u"there are only %1 images"_s.arg(paths.size()) });
                 continue;
             }
-            source->addImgPageFromFile(paths.at(number - 1));
-            report.bytes += QFileInfo(paths.at(number - 1)).size();
+            addPicture(paths.at(number - 1), *source, report);
         }
         source->generateNormalPages();
 

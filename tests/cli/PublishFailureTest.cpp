@@ -178,6 +178,17 @@ TEST_F(PublishFailure, PagesThatFailAreNamedAndTheRestIsWritten)
     EXPECT_TRUE(exists("book/files/page/2.jpg"));
 }
 
+TEST_F(PublishFailure, PicturesWithoutTheirEndAreNamed)
+{
+    for (const QString& name : { u"1.jpg"_s, u"2.png"_s }) {
+        const QByteArray whole = readTestFile(writePicture(u"in/"_s + name, 300, 400));
+        EXPECT_EQ(run("publish in book").errors.count("missing"), 0);
+        writeTestFile(at(u"in/"_s + name), whole.chopped(20));
+        EXPECT_TRUE(run("publish in book").errors.contains((name + u" is missing"_s).toUtf8()));
+        QFile::remove(at(u"in/"_s + name));
+    }
+}
+
 TEST_F(PublishFailure, WithoutAnyPageThereIsNoBook)
 {
     PDFBuilder builder;
