@@ -29,10 +29,15 @@ std::vector<PDFTextLine> PDFTextReader::next()
     const int pageNumber = iPageIndices.at(iNext++) + 1;
     const PDFServiceAnswer answer = iPool->next();
     if (!answer.isAnswered())
-        LOG_WARN("PDFTextReader",
-            u"%1: no text of page %2: %3"_s.arg(
-                iPath, QString::number(pageNumber), answer.problem));
+        logLoss(u"no text of page %1: %2"_s.arg(QString::number(pageNumber), answer.problem));
+    if (answer.fields["cut"_L1].toBool())
+        logLoss(u"page %1 has too much text; the end of it is left out"_s.arg(pageNumber));
     return PDFAnswers::textLines(answer.fields);
+}
+
+void PDFTextReader::logLoss(const QString& what) const
+{
+    LOG_WARN("PDFTextReader", u"%1: %2"_s.arg(iPath, what));
 }
 
 } // namespace leafcast

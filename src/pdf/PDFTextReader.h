@@ -22,11 +22,13 @@ public:
     ~PDFTextReader();
 
     bool atEnd() const { return iNext == iPageIndices.size(); }
-    /// The text of the next page; empty, with one log line, when it can't be read. Empty at the
-    /// end.
+    /// The text of the next page; empty, with one log line, when it can't be read, and cut, with
+    /// one too, when it is far more than people could read on a page. Empty at the end.
     std::vector<PDFTextLine> next();
 
 private:
+    void logLoss(const QString& what) const;
+
     const QString iPath;
     const std::vector<int> iPageIndices;
     size_t iNext = 0;

@@ -9,6 +9,9 @@ namespace {
 
     using HeldText = Held<fz_stext_page, fz_drop_stext_page>;
 
+    // A page of a broadsheet newspaper has some 40,000.
+    constexpr int MostCharacters = 200'000;
+
     // In points: the text device decides by distances what is a blank and what a new line.
     struct Paper {
         double width;
@@ -76,9 +79,30 @@ namespace {
         TextLine iLine;
     };
 
+    PageText readPage(const fz_stext_page& text, const Paper& paper)
+    {
+        PageText page;
+        LineBuilder builder(paper);
+        int left = MostCharacters;
+        for (const fz_stext_block* block = text.first_block; block != nullptr;
+             block = block->next) {
+            if (block->type != FZ_STEXT_BLOCK_TEXT)
+                continue;
+            for (const fz_stext_line* line = block->u.t.first_line; line != nullptr;
+                 line = line->next) {
+                const fz_stext_char* c = line->first_char;
+                for (; c != nullptr && left > 0; c = c->next, --left)
+                    builder.add(*c);
+                page.isCut |= c != nullptr;
+                builder.endLine(page.lines);
+            }
+        }
+        return page;
+    }
+
 } // namespace
 
-std::vector<TextLine> textOfPage(const LoadedPage& page)
+PageText textOfPage(const LoadedPage& page)
 {
     const Library& library = page.document().mupdf();
     fz_context* context = library.context();
@@ -92,19 +116,7 @@ std::vector<TextLine> textOfPage(const LoadedPage& page)
         page.runAnnotations(device.get(), paper.width, paper.height);
         fz_close_device(context, device.get());
     });
-    std::vector<TextLine> lines;
-    LineBuilder builder(paper);
-    for (const fz_stext_block* block = text->first_block; block != nullptr; block = block->next) {
-        if (block->type != FZ_STEXT_BLOCK_TEXT)
-            continue;
-        for (const fz_stext_line* line = block->u.t.first_line; line != nullptr;
-             line = line->next) {
-            for (const fz_stext_char* c = line->first_char; c != nullptr; c = c->next)
-                builder.add(*c);
-            builder.endLine(lines);
-        }
-    }
-    return lines;
+    return readPage(*text.get(), paper);
 }
 
 } // namespace leafcast::service

@@ -22,8 +22,13 @@ struct TextLine {
     std::vector<FractionBox> boxes{};
 };
 
+struct PageText {
+    std::vector<TextLine> lines{};
+    bool isCut = false; // there is more of it than a page for people has
+};
+
 /// The text that can be seen on a page: words outside it are left out, boxes are clipped to it.
 /// Throws ServiceError.
-std::vector<TextLine> textOfPage(const LoadedPage& page);
+PageText textOfPage(const LoadedPage& page);
 
 } // namespace leafcast::service

@@ -173,10 +173,11 @@ QJsonObject RequestHandler::outline(const QJsonObject&)
 QJsonObject RequestHandler::text(const QJsonObject& request)
 {
     const int page = RequestFields(request).integer("page", 0, INT_MAX);
+    const PageText text = textOfPage(LoadedPage(document(), page));
     QJsonArray lines;
-    for (const TextLine& line : textOfPage(LoadedPage(document(), page)))
+    for (const TextLine& line : text.lines)
         lines.append(jsonLine(line));
-    return { { u"lines"_s, lines } };
+    return { { u"lines"_s, lines }, { u"cut"_s, text.isCut } };
 }
 
 QJsonObject RequestHandler::render(const QJsonObject& request)

@@ -7,11 +7,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QJsonArray linesOf(const PDFBuilder::Page& page)
+QJsonObject textOf(const PDFBuilder::Page& page)
 {
     PDFBuilder pdf;
     pdf.addPage(page);
-    return ServiceSession(pdf).ask(u"text"_s, { { u"page"_s, 0 } }).value(u"lines").toArray();
+    return ServiceSession(pdf).ask(u"text"_s, { { u"page"_s, 0 } });
+}
+
+QJsonArray linesOf(const PDFBuilder::Page& page)
+{
+    return textOf(page)[u"lines"].toArray();
 }
 
 } // namespace
@@ -28,4 +33,14 @@ TEST(Text, IsGivenInLinesOfWordsWithoutWhatIsCroppedAway)
     EXPECT_EQ(lines[1][u"text"], u"Hello wide world"_s);
     EXPECT_EQ(lines[1][u"boxes"].toArray().size(), 3);
     EXPECT_TRUE(linesOf({}).isEmpty());
+}
+
+TEST(Text, IsCutWhereNobodyCouldReadOn)
+{
+    const QJsonObject text
+        = textOf({ .content = PDFBuilder::showText(QByteArray(250'000, 'x'), 9, 9)
+                + PDFBuilder::showText("beyond", 9, 99) });
+    EXPECT_EQ(text[u"lines"].toArray().size(), 1);
+    EXPECT_EQ(text[u"lines"][0][u"text"].toString().size(), 200'000);
+    EXPECT_TRUE(text[u"cut"].toBool());
 }
