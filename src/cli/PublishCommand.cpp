@@ -7,6 +7,7 @@
 #include "cli/PageInput.h"
 #include "cli/PublishOptions.h"
 #include "cli/PublishReport.h"
+#include "templates/PropertyWalk.h"
 #include "templates/ScriptHazard.h"
 
 #include <QProcess>
@@ -23,19 +24,13 @@ namespace {
         return { options.outputFolder(), kind, options.app ? options.packageName() : QString() };
     }
 
-    void collectFiles(const FlashTemplateProperties& properties, QStringList& files)
-    {
-        for (const auto& property : properties) {
-            if (property->propertyType() == pt_file && !property->value().isEmpty())
-                files.append(property->value());
-            collectFiles(property->childProperties(), files);
-        }
-    }
-
     QStringList filesRead(const PublishOptions& options, const FlashTemplate& flashTemplate)
     {
         QStringList files = options.inputs();
-        collectFiles(flashTemplate.properties(), files);
+        forEachProperty(flashTemplate.properties(), [&files](const auto& property) {
+            if (property.propertyType() == pt_file && !property.value().isEmpty())
+                files.append(property.value());
+        });
         return files;
     }
 

@@ -4,6 +4,7 @@
 #include "cli/FileReason.h"
 #include "cli/TemplateChoice.h"
 #include "templates/FlashTemplatePropertyType.h"
+#include "templates/PropertyWalk.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -104,21 +105,15 @@ namespace {
         return ExitCode::Complete;
     }
 
-    using Values
-        = std::vector<std::pair<QString, QString>>; // key and value, in the order of the tree
-
-    void collect(const FlashTemplateProperties& properties, Values& values)
-    {
-        for (const auto& property : properties) {
-            values.emplace_back(property->key(), property->value());
-            collect(property->childProperties(), values);
-        }
-    }
+    /// Keys and values, in the order of the tree.
+    using Values = std::vector<std::pair<QString, QString>>;
 
     Values valuesOf(const FlashTemplate& flashTemplate)
     {
         Values values;
-        collect(flashTemplate.properties(), values);
+        forEachProperty(flashTemplate.properties(), [&values](const auto& property) {
+            values.emplace_back(property.key(), property.value());
+        });
         return values;
     }
 

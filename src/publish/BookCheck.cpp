@@ -2,6 +2,7 @@
 #include "publish/BookCheck.h"
 
 #include "publish/FlashBookOutput.h"
+#include "templates/PropertyWalk.h"
 
 #include <QDir>
 #include <QFile>
@@ -20,25 +21,16 @@ namespace {
         return info.isDir() ? !QDir(path).isEmpty() : info.isFile() && info.size() > 0;
     }
 
-    void collectSettingsFiles(
-        const FlashBookOutput& book, const FlashTemplateProperties& properties, QStringList& found)
-    {
-        for (const auto& property : properties) {
-            if (!property)
-                continue;
-            if (property->propertyType() == pt_file && !property->value().isEmpty())
-                found.append(book.extFileName(*property));
-            collectSettingsFiles(book, property->childProperties(), found);
-        }
-    }
-
     QStringList filesBesidePages(const FlashBookOutput& book)
     {
         QStringList files = { book.outputHTMLFileName(), book.jQueryFileName(),
             book.mainScriptFileName(), book.styleFolderName() };
         if (book.wantsReaderData())
             files.append(book.readerDataFileName());
-        collectSettingsFiles(book, book.flashTemplate()->properties(), files);
+        forEachProperty(book.flashTemplate()->properties(), [&](const auto& property) {
+            if (property.propertyType() == pt_file && !property.value().isEmpty())
+                files.append(book.extFileName(property));
+        });
         for (const auto& companion : book.companions())
             if (!companion.source.isEmpty())
                 files.append(companion.copy);

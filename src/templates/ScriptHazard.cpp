@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "templates/ScriptHazard.h"
 
+#include "templates/PropertyWalk.h"
 #include "templates/ScriptEntry.h"
 
 #include <array>
@@ -51,24 +52,16 @@ namespace {
         return entry.isQuoted ? whyNoText(entry.value) : whyNoNumber(entry.value);
     }
 
-    void collect(const FlashTemplateProperties& properties, std::vector<ScriptHazard>& found)
-    {
-        for (const auto& property : properties) {
-            if (!property)
-                continue;
-            const QString reason = hazardOf(ScriptEntry(*property));
-            if (!reason.isEmpty())
-                found.push_back({ property->key(), reason });
-            collect(property->childProperties(), found);
-        }
-    }
-
 } // namespace
 
 std::vector<ScriptHazard> scriptHazards(const FlashTemplateProperties& properties)
 {
     std::vector<ScriptHazard> found;
-    collect(properties, found);
+    forEachProperty(properties, [&found](const FlashTemplateProperty& property) {
+        const QString reason = hazardOf(ScriptEntry(property));
+        if (!reason.isEmpty())
+            found.push_back({ property.key(), reason });
+    });
     return found;
 }
 
