@@ -51,6 +51,8 @@ namespace {
 
     PropertyValueCheck checkChoice(const FlashTemplateProperty& property, const QString& typed)
     {
+        if (property.valueSource().trimmed().isEmpty())
+            return accepted(typed); // a list without choices has no rule
         QStringList shown;
         for (const QString& choice : property.valueSource().split(u',')) {
             // Blanks of the source are stored, as by the editor, which looks for the exact entry.
