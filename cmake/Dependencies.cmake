@@ -9,6 +9,7 @@ pkg_check_modules(LCMS2 REQUIRED IMPORTED_TARGET lcms2>=2.14)
 include(StaticJPEG)
 find_package(CLI11 2.1 REQUIRED)
 include(MuPDF)
+include(PreviewServerLibraries)
 
 if(LEAFCAST_TESTS)
   find_package(GTest 1.12 REQUIRED)

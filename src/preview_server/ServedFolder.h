@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "preview_server/FileDescriptor.h"
+#include "preview_server/RequestPath.h"
+
+#include <cstdint>
+#include <string>
+#include <sys/stat.h>
+
+namespace leafcast::preview {
+
+/// A regular file, opened for reading.
+struct ServedFile {
+    FileDescriptor descriptor;
+    std::string name;
+    int64_t size = 0; // bytes
+    timespec modified{};
+    std::string version; // differs when the content does, as an entity tag without quotes
+};
+
+struct Lookup {
+    enum class Result { File, Folder, Nothing, TooManyFiles };
+    Result result = Result::Nothing;
+    ServedFile file; // of a File
+};
+
+/// The folder that is served. Nothing but regular files below it can be reached: every name on the
+/// way is opened relative to the folder before it, and links are never followed.
+class ServedFolder {
+public:
+    /// Throws std::system_error when it can't be opened.
+    explicit ServedFolder(const char* path);
+
+    /// A folder gives its "index.html" when the path ends with a slash. The root without one gives
+    /// its page, when it holds exactly one.
+    Lookup find(const RequestPath& path) const;
+
+private:
+    Lookup findIn(int folder, const std::string& name) const;
+    std::string pageOfRoot() const;
+
+    FileDescriptor iRoot;
+};
+
+} // namespace leafcast::preview
