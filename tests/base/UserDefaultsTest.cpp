@@ -61,13 +61,3 @@ TEST_F(UserDefaultsTest, AWriteThatFailsKeepsFileAndValues)
     defaults.synchronize();
     EXPECT_EQ(UserDefaults(iFile).objectForKey(u"a"_s).toString().size(), 5000);
 }
-
-TEST_F(UserDefaultsTest, AFolderThatCannotBeWrittenIsNotTakenForALock)
-{
-    UserDefaults defaults(u"/sys/leafcast-defaults.json"_s); // not even root can write there
-    const LogCapture log;
-    defaults.synchronize();
-    EXPECT_EQ(log.lines(),
-        QStringList(u"WARN UserDefaults: can't save /sys/leafcast-defaults.json: "
-                    "its folder can't be written"_s));
-}

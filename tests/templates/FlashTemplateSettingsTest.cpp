@@ -86,6 +86,10 @@ TEST_F(FlashTemplateSettingsTest, ResolvesFilesOfTheCurrentStyleInAnyEncoding)
     const LogCapture log;
     EXPECT_FALSE(flashTemplate.importPropertiesSettingsFrom(u"/nowhere/x.txt"_s).readable);
     EXPECT_EQ(import("a shopping list\n").recordCount, 0);
+    EXPECT_EQ(import("\xEF\xBB\xBFtwice=\xE6\xB8\xAC").encoding, TextEncoding::Utf8);
+    EXPECT_EQ(value(u"twice"_s), u"\u6E2C");
+    EXPECT_EQ(import("\xFE\xFF\0t\0w\0i\0c\0e\0=\0\xC9"_ba).encoding, TextEncoding::Utf16);
+    EXPECT_EQ(value(u"twice"_s), u"\u00C9");
     EXPECT_EQ(import("\xFF\xFEt\0w\0i\0c\0e\0=\0\xE9\0"_ba).encoding, TextEncoding::Utf16);
     EXPECT_EQ(value(u"twice"_s), u"\u00E9");
     EXPECT_EQ(import("twice=\xE8").encoding, TextEncoding::Latin1);
