@@ -50,7 +50,7 @@ namespace {
     {
         if (!QFileInfo(input).isDir())
             return { QFileInfo(input).absoluteFilePath() };
-        const QStringList paths = imagesInFolder(input);
+        QStringList paths = imagesInFolder(input);
         if (paths.isEmpty())
             refuse(input,
                 QFileInfo(input).isReadable() ? u"it holds no images (.jpg, .jpeg, .png, .gif)"_s

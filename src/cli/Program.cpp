@@ -49,10 +49,13 @@ Exit status:
         const TypedCommand typed = typedCommand(program);
         const auto unknown = program.remaining(true);
         const bool wantsCommand = typed.command->get_require_subcommand_min() > 0;
-        const QString problem = wantsCommand && !unknown.empty()
-            ? u"there is no command \"%1\""_s.arg(QString::fromStdString(unknown.front()))
-            : withoutGuards(QString::fromUtf8(error.what()));
-        return u"%1; see: %2 --help"_s.arg(problem, typed.line);
+        if (!wantsCommand || unknown.empty())
+            return u"%1; see: %2 --help"_s.arg(
+                withoutGuards(QString::fromUtf8(error.what())), typed.line);
+        const QString word = QString::fromStdString(unknown.front());
+        const QString kind = word.startsWith(u'-') ? u"option"_s : u"command"_s;
+        return u"there is no %1 \"%2\"; see: %3 --help"_s.arg(
+            kind, withoutGuards(word), typed.line);
     }
 
 } // namespace

@@ -206,8 +206,7 @@ TEST_F(PublishFailure, StandardStreamsThatCannotBeUsed)
     EXPECT_EQ(full.status, 4);
     EXPECT_TRUE(full.errors.contains("standard output")) << full.errors.toStdString();
     EXPECT_EQ(runRedirected(u"<&- >&- 2>&-"_s, publish).status, 4);
-    EXPECT_EQ(runRedirected(u"| true"_s, publish).status, 0);
-    EXPECT_EQ(runRedirected(u"$(printf '\\344')"_s, publish).status, 2);
+    EXPECT_TRUE(runRedirected(u"$(printf '\\344')"_s, publish).errors.contains("UTF-8"));
 }
 
 TEST_F(PublishFailure, ATruncatedPDFIsMendedAndSaidSoOrRefused)
