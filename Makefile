@@ -35,11 +35,12 @@ bench: ## Measure speed, memory and size beside other programs
 	@tools/build release
 	@bench/run
 
-samples: ## Draw the sample magazine, the first book's pages and the template's pictures anew
+samples: ## Draw the sample magazine, the first book's pages, the template's pictures and the icon anew
 	@tools/setup samples
 	@node samples/make-magazine.mjs
 	@node tools/make-demo-images.mjs
 	@node tools/make-template-art.mjs
+	@node tools/make-icons.mjs
 
 shots: ## Take the pictures of the styles from a real book
 	@tools/setup samples
