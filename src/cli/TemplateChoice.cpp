@@ -108,7 +108,7 @@ void applySettingsFile(FlashTemplate& flashTemplate, const QString& path, QStrin
 
 QStringList templateNames()
 {
-    const QStringList names = FlashTemplate::availableTemplates();
+    QStringList names = FlashTemplate::availableTemplates();
     if (names.isEmpty())
         throw CommandFailure(ExitCode::InputUnreadable,
             u"there are no templates in the resource folder %1"_s.arg(ResourceFolder::path()));
