@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "publish/BookCheck.h"
 
+#include "publish/BookContent.h"
 #include "publish/FlashBookOutput.h"
-#include "templates/PropertyWalk.h"
 
 #include <QDir>
 #include <QFile>
@@ -21,16 +21,9 @@ namespace {
         return info.isDir() ? !QDir(path).isEmpty() : info.isFile() && info.size() > 0;
     }
 
-    QStringList filesBesidePages(const FlashBookOutput& book)
+    QStringList installedCompanions(const FlashBookOutput& book)
     {
-        QStringList files = { book.outputHTMLFileName(), book.jQueryFileName(),
-            book.mainScriptFileName(), book.styleFolderName() };
-        if (book.wantsReaderData())
-            files.append(book.readerDataFileName());
-        forEachProperty(book.flashTemplate()->properties(), [&](const auto& property) {
-            if (property.propertyType() == pt_file && !property.value().isEmpty())
-                files.append(book.extFileName(property));
-        });
+        QStringList files;
         for (const auto& companion : book.companions())
             if (!companion.source.isEmpty())
                 files.append(companion.copy);
@@ -64,7 +57,7 @@ BookCheck::BookCheck(const FlashBookOutput& book)
         if (!isWritten(book.pageFileName(*page)))
             pagesWithoutPicture.push_back(page->pageIndex());
     }
-    missingFiles = filesBesidePages(book) + failures;
+    missingFiles = BookContent::filesBesidePages(book) + installedCompanions(book) + failures;
     missingFiles.removeDuplicates();
     missingFiles.removeIf(
         [&](const QString& path) { return pictures.contains(path) || isWritten(path); });

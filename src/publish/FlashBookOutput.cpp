@@ -164,6 +164,16 @@ QString FlashBookOutput::extFileName(const FlashTemplateProperty& property) cons
     return inResources(iSaveToFolder, extFileURL(property));
 }
 
+QStringList FlashBookOutput::annotationFileNames() const
+{
+    QStringList names;
+    if (iFlashPagesAnnotations)
+        for (const QString& file : iFlashPagesAnnotations->needFiles())
+            names.append(inResources(
+                iSaveToFolder, joined(iAnnotationFilesFolder, QFileInfo(file).fileName())));
+    return names;
+}
+
 QString FlashBookOutput::extFileURL(const FlashTemplateProperty& property) const
 {
     return u"%1/%2.%3"_s.arg(

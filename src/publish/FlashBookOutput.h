@@ -45,6 +45,8 @@ public:
     /// Where the book has a page's picture, and the file that a pt_file property names.
     QString pageFileName(const FlashPage& page) const;
     QString extFileName(const FlashTemplateProperty& property) const;
+    /// Where the book has the files that link areas need.
+    QStringList annotationFileNames() const;
     /// Path of the preview server program; the empty string when it is not there.
     static QString GetServerPath();
 
