@@ -18,6 +18,7 @@ demo: ## Set up, build, and turn the sample PDF into a book
 	@echo "The book lies in $(CURDIR)/$(DEMO_BOOK)."
 	@echo "Look at it: open $(CURDIR)/$(DEMO_BOOK)/index.html in a browser,"
 	@echo "or: xdg-open $(DEMO_BOOK)/index.html"
+	@echo "On a tablet: build/release/bin/leafcast serve $(DEMO_BOOK) shows the address and its QR code."
 
 test: ## Set up, build and run every test
 	@tools/setup test

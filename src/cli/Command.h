@@ -13,6 +13,7 @@ using Action = std::function<ExitCode()>;
 
 /// Each registers one subcommand; when it is the one that was typed, its action is left in chosen.
 void addPublishCommand(CLI::App& program, Action& chosen);
+void addServeCommand(CLI::App& program, Action& chosen);
 void addInspectCommand(CLI::App& program, Action& chosen);
 void addTemplatesCommand(CLI::App& program, Action& chosen);
 void addStylesCommand(CLI::App& program, Action& chosen);

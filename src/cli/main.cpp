@@ -34,8 +34,8 @@ int main(int argc, char** argv)
     LogOptions logOptions;
     logOptions.addTo(program);
     Action action;
-    for (const auto& addCommand : { addPublishCommand, addInspectCommand, addTemplatesCommand,
-             addStylesCommand, addSettingsCommand })
+    for (const auto& addCommand : { addPublishCommand, addServeCommand, addInspectCommand,
+             addTemplatesCommand, addStylesCommand, addSettingsCommand })
         addCommand(program, action);
     if (const auto status = parseArguments(program, argc, argv))
         return *status;
