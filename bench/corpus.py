@@ -38,6 +38,7 @@ PHOTOS = (40, 8)
 MANY = (1000, 200)
 VERY_MANY = (5000, 1000)
 REWRITE = (500, 100)
+SERVED = (300, 60)
 
 
 class Corpus:
@@ -61,6 +62,10 @@ class Corpus:
 
     def rewrite(self):
         return self.cut("rewrite", "Book written twice", [("pari-users", 1, self.count(REWRITE))])
+
+    def served(self):
+        return self.cut("served", "Book behind the preview server",
+                        [("pari-users", 1, self.count(SERVED))])
 
     def mixture(self, name, pages):
         books = [("zsh", 480), ("pari-users", 675), ("pari-library", 427), ("gap", 1418)]

@@ -10,6 +10,7 @@ import documents
 import encoder
 import latency
 import measure
+import preview
 import report
 import targets
 
@@ -64,10 +65,30 @@ def measure_encoder(place, corpus, _options):
     return [dataclasses.asdict(kind) for kind in kinds], []
 
 
+def measure_preview(place, corpus, options):
+    report.heading(f"Preview server: {preview.CONNECTIONS} connections beside {preview.IDLE} idle and"
+                   f" {preview.SLOW} slow clients")
+    document = corpus.served()
+    book = place.clean_scratch() / "served"
+    done = measure.run([place.leafcast, "publish", document.path, book, "--quiet"])
+    if done.status != 0:
+        sys.exit(f"publish failed with status {done.status}: {done.output}")
+    rounds = [(preview.measure_load(preview.PreviewServer(place.preview_server, book), document.pages),
+               preview.measure_load(preview.Nginx(book), document.pages))
+              for _ in range(options.rounds)]
+    ours, peers = map(preview.best_of, zip(*rounds))
+    for name, load in (("iPadPreview", ours), ("nginx", peers)):
+        print(f"  {name:12} {load.pages_per_second:8.0f} pages/s, {load.failures} failed,"
+              f" {load.peak_bytes / targets.MEBIBYTE:.1f} MiB, {load.crowd_failures} of the others refused")
+    return {"ours": dataclasses.asdict(ours), "nginx": dataclasses.asdict(peers)}, \
+        targets.preview(ours, peers)
+
+
 ALL = {
     "documents": measure_documents,
     "memory": measure_memory,
     "rewrite": measure_rewrite,
     "latency": measure_latency,
     "encoder": measure_encoder,
+    "preview": measure_preview,
 }

@@ -24,6 +24,10 @@ class Place:
     def service(self):
         return self.build / "bin/leafcast-pdf"
 
+    @property
+    def preview_server(self):
+        return self.build / "share/leafcast/Lib/iPadPreview"
+
     def bench_program(self, name):
         return self.build / "bench" / name
 

@@ -48,3 +48,11 @@ def rewrite(first_seconds, second_seconds):
 def latency(version_seconds, first_page_seconds):
     return [Target("leafcast --version", version_seconds * 1000, 30, "ms"),
             Target("First page drawn of a long document", first_page_seconds * 1000, 150, "ms")]
+
+
+def preview(ours, peers):
+    """Loads of the preview server and of nginx with the same folder and clients."""
+    return [Target("Preview server under load: pages per second against nginx",
+                   ours.pages_per_second / peers.pages_per_second, 0.8, "times", at_least=True),
+            Target("Preview server under load: requests that failed", ours.failures, 1, "requests"),
+            Target("Preview server under load: memory", ours.peak_bytes / MEBIBYTE, 30, "MiB")]

@@ -7,9 +7,9 @@
 #include <boost/asio/use_awaitable.hpp>
 #include <boost/asio/write.hpp>
 #include <boost/beast/core/flat_buffer.hpp>
-#include <boost/beast/core/tcp_stream.hpp>
 #include <boost/beast/http/read.hpp>
 #include <boost/beast/http/write.hpp>
+#include <netinet/tcp.h>
 #include <sys/sendfile.h>
 
 namespace leafcast::preview {
@@ -17,6 +17,7 @@ namespace leafcast::preview {
 namespace net = boost::asio;
 namespace beast = boost::beast;
 namespace http = boost::beast::http;
+using net::ip::tcp;
 using namespace std::chrono_literals;
 
 namespace {
@@ -33,12 +34,25 @@ namespace {
 
     using Parser = http::request_parser<http::empty_body>;
 
-    net::awaitable<void> waitForRequest(beast::tcp_stream& stream, beast::flat_buffer& buffer)
+    struct Client {
+        Client(tcp::socket connected, ConnectionTimes& times)
+            : socket(std::move(connected))
+            , time(times, socket)
+        {
+        }
+
+        tcp::socket socket;
+        ConnectionTimes::Time time;
+        beast::flat_buffer buffer{ MostHeaderBytes }; // read and not yet parsed
+    };
+
+    net::awaitable<void> waitForRequest(Client& client)
     {
-        if (buffer.size() > 0) // sent together with the one before
+        if (client.buffer.size() > 0) // sent together with the one before
             co_return;
-        stream.expires_after(IdleTime);
-        buffer.commit(co_await stream.async_read_some(buffer.prepare(1024), net::use_awaitable));
+        client.time.expireAfter(IdleTime);
+        client.buffer.commit(co_await client.socket.async_read_some(
+            client.buffer.prepare(1024), net::use_awaitable));
     }
 
     bool isClientsFault(const beast::error_code& error)
@@ -59,7 +73,7 @@ namespace {
     }
 
     // sendfile() takes no time-out, so what waits for the client is a short write in between.
-    net::awaitable<void> sendFile(beast::tcp_stream& stream, const Reply& reply)
+    net::awaitable<void> sendFile(Client& client, const Reply& reply)
     {
         const int file = reply.file.get();
         off_t position = reply.first;
@@ -67,67 +81,73 @@ namespace {
         std::array<char, 4096> chunk;
         while (position < end) {
             const auto most = static_cast<size_t>(std::min<off_t>(end - position, MostBytesAtOnce));
-            sendfile(stream.socket().native_handle(), file, &position, most);
+            sendfile(client.socket.native_handle(), file, &position, most);
             if (position == end)
                 break;
             const auto rest = std::min(static_cast<size_t>(end - position), chunk.size());
             const ssize_t count = pread(file, chunk.data(), rest, position);
             if (count <= 0) // cut off meanwhile: the length that was promised can't be kept
                 throw boost::system::system_error(net::error::connection_aborted);
-            stream.expires_after(StallTime);
-            position += static_cast<off_t>(co_await stream.async_write_some(
+            client.time.expireAfter(StallTime);
+            position += static_cast<off_t>(co_await client.socket.async_write_some(
                 net::buffer(chunk.data(), static_cast<size_t>(count)), net::use_awaitable));
         }
     }
 
-    net::awaitable<void> send(beast::tcp_stream& stream, Reply& reply)
+    // While it is corked a socket sends full packets only: the head goes out with the body.
+    void setCorked(Client& client, int corked)
     {
-        stream.expires_after(StallTime);
+        setsockopt(client.socket.native_handle(), IPPROTO_TCP, TCP_CORK, &corked, sizeof corked);
+    }
+
+    net::awaitable<void> send(Client& client, Reply& reply)
+    {
+        client.time.expireAfter(StallTime);
+        setCorked(client, 1);
         http::response_serializer<http::empty_body> serializer(reply.head);
-        co_await http::async_write_header(stream, serializer, net::use_awaitable);
+        co_await http::async_write_header(client.socket, serializer, net::use_awaitable);
         if (reply.text)
-            co_await net::async_write(stream, net::buffer(*reply.text), net::use_awaitable);
+            co_await net::async_write(client.socket, net::buffer(*reply.text), net::use_awaitable);
         if (reply.file)
-            co_await sendFile(stream, reply);
+            co_await sendFile(client, reply);
+        setCorked(client, 0);
     }
 
     // Closing at once, with bytes of the client unread, would take our last answer away from it.
-    net::awaitable<void> sayFarewell(beast::tcp_stream& stream, beast::flat_buffer& buffer)
+    net::awaitable<void> sayFarewell(Client& client)
     {
         beast::error_code ended;
-        stream.socket().shutdown(net::ip::tcp::socket::shutdown_send, ended);
-        stream.expires_after(FarewellTime);
+        client.socket.shutdown(tcp::socket::shutdown_send, ended);
+        client.time.expireAfter(FarewellTime);
         for (size_t taken = 0; !ended && taken < MostFarewellBytes;) {
-            buffer.clear();
-            taken += co_await stream.async_read_some(
-                buffer.prepare(4096), net::redirect_error(net::use_awaitable, ended));
+            client.buffer.clear();
+            taken += co_await client.socket.async_read_some(
+                client.buffer.prepare(4096), net::redirect_error(net::use_awaitable, ended));
         }
     }
 
 } // namespace
 
-net::awaitable<void> serveConnection(net::ip::tcp::socket socket, FilePolicy& policy)
+net::awaitable<void> serveConnection(tcp::socket socket, FilePolicy& policy, ConnectionTimes& times)
 {
-    socket.set_option(net::ip::tcp::no_delay(true));
-    beast::tcp_stream stream(std::move(socket));
-    beast::flat_buffer buffer(MostHeaderBytes);
+    Client client(std::move(socket), times);
     for (bool keepsAlive = true; keepsAlive;) {
-        co_await waitForRequest(stream, buffer);
-        stream.expires_after(HeaderTime);
+        co_await waitForRequest(client);
+        client.time.expireAfter(HeaderTime);
         Parser parser;
         parser.header_limit(MostHeaderBytes);
         beast::error_code error;
         co_await http::async_read_header(
-            stream, buffer, parser, net::redirect_error(net::use_awaitable, error));
+            client.socket, client.buffer, parser, net::redirect_error(net::use_awaitable, error));
         if (error && !isClientsFault(error))
             co_return;
         Reply reply = error ? refusalOf(error) : policy.answer(parser.get());
         keepsAlive = !reply.closesConnection && parser.get().keep_alive();
         reply.head.version(parser.get().version() == 10 ? 10 : 11);
         reply.head.keep_alive(keepsAlive);
-        co_await send(stream, reply);
+        co_await send(client, reply);
     }
-    co_await sayFarewell(stream, buffer);
+    co_await sayFarewell(client);
 }
 
 } // namespace leafcast::preview

@@ -9,7 +9,7 @@
 #include <boost/asio/ip/v6_only.hpp>
 #include <boost/asio/redirect_error.hpp>
 #include <boost/asio/signal_set.hpp>
-#include <boost/asio/strand.hpp>
+#include <boost/asio/steady_timer.hpp>
 #include <boost/asio/use_awaitable.hpp>
 #include <thread>
 #include <unistd.h>
@@ -40,10 +40,10 @@ namespace {
     }
 
     net::awaitable<void> serveAdmitted(
-        tcp::socket socket, FilePolicy& policy, ConnectionLimits::Admission)
+        tcp::socket socket, FilePolicy& policy, ConnectionTimes& times, ConnectionLimits::Admission)
     {
         try {
-            co_await serveConnection(std::move(socket), policy);
+            co_await serveConnection(std::move(socket), policy, times);
         } catch (const std::exception&) {
             // The client has gone, or memory is short; the others go on.
         }
@@ -55,6 +55,8 @@ Server::Server(const ServedFolder& folder)
     : iPolicy(folder)
     , iLimits(MostConnections, MostConnectionsOfOneClient)
 {
+    for (unsigned i = 0; i < threadCount(); ++i)
+        iWorkers.push_back(std::make_unique<Worker>());
 }
 
 uint16_t Server::listen(
@@ -77,7 +79,7 @@ std::vector<tcp::acceptor> Server::openAcceptors(
 {
     std::vector<Acceptor> acceptors;
     for (const net::ip::address& address : addresses) {
-        Acceptor acceptor(net::make_strand(iContext));
+        Acceptor acceptor(iWorkers.front()->context);
         boost::system::error_code error;
         acceptor.open(address.is_v6() ? tcp::v6() : tcp::v4(), error);
         if (!error) {
@@ -100,25 +102,55 @@ std::vector<tcp::acceptor> Server::openAcceptors(
 
 void Server::run()
 {
-    net::signal_set signals(iContext, SIGINT, SIGTERM, SIGHUP);
-    signals.async_wait([this](const boost::system::error_code&, int) { iContext.stop(); });
+    net::io_context& main = iWorkers.front()->context;
+    net::signal_set signals(main, SIGINT, SIGTERM, SIGHUP);
+    signals.async_wait([this](const boost::system::error_code&, int) { stop(); });
     for (Acceptor& acceptor : iAcceptors)
-        net::co_spawn(acceptor.get_executor(), acceptConnections(acceptor), net::detached);
-    net::co_spawn(iContext, endWithParent(), net::detached);
+        net::co_spawn(main, acceptConnections(acceptor), net::detached);
+    net::co_spawn(main, endWithParent(), net::detached);
 
-    std::vector<std::jthread> helpers(threadCount() - 1);
-    for (std::jthread& helper : helpers)
-        helper = std::jthread([this] { iContext.run(); });
-    iContext.run();
+    std::vector<std::jthread> helpers;
+    for (size_t i = 1; i < iWorkers.size(); ++i)
+        helpers.emplace_back([worker = iWorkers[i].get()] { worker->run(); });
+    iWorkers.front()->run();
+}
+
+void Server::Worker::run()
+{
+    net::co_spawn(context, watchTimes(), net::detached);
+    context.run();
+}
+
+net::awaitable<void> Server::Worker::watchTimes()
+{
+    net::steady_timer timer(context);
+    for (;;) {
+        timer.expires_after(1s);
+        co_await timer.async_wait(net::use_awaitable);
+        times.closeExpired();
+    }
+}
+
+void Server::stop()
+{
+    for (const auto& worker : iWorkers)
+        worker->context.stop();
+}
+
+Server::Worker& Server::nextWorker()
+{
+    iNextWorker = (iNextWorker + 1) % iWorkers.size();
+    return *iWorkers[iNextWorker];
 }
 
 net::awaitable<void> Server::acceptConnections(Acceptor& acceptor)
 {
     net::steady_timer pause(acceptor.get_executor());
     for (;;) {
+        Worker& worker = nextWorker();
         boost::system::error_code error;
         tcp::socket socket = co_await acceptor.async_accept(
-            net::make_strand(iContext), net::redirect_error(net::use_awaitable, error));
+            worker.context, net::redirect_error(net::use_awaitable, error));
         if (error) {
             pause.expires_after(PauseWithoutFiles);
             co_await pause.async_wait(net::use_awaitable);
@@ -127,23 +159,22 @@ net::awaitable<void> Server::acceptConnections(Acceptor& acceptor)
         const tcp::endpoint client = socket.remote_endpoint(error);
         if (error)
             continue;
-        if (auto admission = iLimits.admit(client.address())) {
-            const auto executor = socket.get_executor();
-            net::co_spawn(executor, serveAdmitted(std::move(socket), iPolicy, std::move(admission)),
+        if (auto admission = iLimits.admit(client.address()))
+            net::co_spawn(worker.context,
+                serveAdmitted(std::move(socket), iPolicy, worker.times, std::move(admission)),
                 net::detached);
-        }
     }
 }
 
 net::awaitable<void> Server::endWithParent()
 {
     const pid_t parent = getppid();
-    net::steady_timer timer(iContext);
+    net::steady_timer timer(iWorkers.front()->context);
     while (getppid() == parent) {
         timer.expires_after(ParentLookInterval);
         co_await timer.async_wait(net::use_awaitable);
     }
-    iContext.stop();
+    stop();
 }
 
 } // namespace leafcast::preview

@@ -2,12 +2,13 @@
 #pragma once
 
 #include "preview_server/ConnectionLimits.h"
+#include "preview_server/ConnectionTimes.h"
 #include "preview_server/FilePolicy.h"
 
 #include <boost/asio/awaitable.hpp>
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/ip/tcp.hpp>
-#include <boost/asio/steady_timer.hpp>
+#include <memory>
 #include <vector>
 
 namespace leafcast::preview {
@@ -29,15 +30,28 @@ public:
 private:
     using Acceptor = boost::asio::ip::tcp::acceptor;
 
+    /// Has a thread of its own, which keeps a connection to its end: nothing is handed over and
+    /// nothing waits for a lock.
+    struct Worker {
+        ConnectionTimes times;
+        boost::asio::io_context context{ 1 };
+
+        boost::asio::awaitable<void> watchTimes();
+        void run();
+    };
+
     std::vector<Acceptor> openAcceptors(
         const std::vector<boost::asio::ip::address>& addresses, uint16_t port);
     boost::asio::awaitable<void> acceptConnections(Acceptor& acceptor);
     boost::asio::awaitable<void> endWithParent();
+    Worker& nextWorker();
+    void stop();
 
-    // Connections that are open at the end go with the context and use what stands above it.
+    // Connections that are open at the end go with their worker and use what stands above it.
     FilePolicy iPolicy;
     ConnectionLimits iLimits;
-    boost::asio::io_context iContext;
+    std::vector<std::unique_ptr<Worker>> iWorkers; // the first one accepts for all
+    size_t iNextWorker = 0;
     std::vector<Acceptor> iAcceptors;
 };
 
