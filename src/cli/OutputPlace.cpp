@@ -107,6 +107,16 @@ void OutputPlace::requireWritable() const
         refuse(u"the output folder %1 can't be written to: %2"_s.arg(iFolder, qt_error_string()));
 }
 
+void OutputPlace::requireNameFits(const QString& name) const
+{
+    const qsizetype size = QFile::encodeName(name).size();
+    const long limit
+        = pathconf(QFile::encodeName(nearestExisting(iFolder)).constData(), _PC_NAME_MAX);
+    if (limit > 0 && size > limit)
+        refuse(u"the name %1 has %2 bytes, and in %3 there is room for %4; give a shorter --name"_s
+                   .arg(name, QString::number(size), iFolder, QString::number(limit)));
+}
+
 // Everything below these goes, or may go, while the book is written.
 QStringList OutputPlace::replacedFolders() const
 {

@@ -21,6 +21,8 @@ public:
     void requireReplaceable() const;
     /// Refuses a folder that can't be made or written to.
     void requireWritable() const;
+    /// Refuses the name of a file or package that is longer than the file system takes.
+    void requireNameFits(const QString& name) const;
     /// Refuses to read a file that the output would replace.
     void requireOutside(const QStringList& inputs) const;
     /// Refuses when the disk has too little room for the writer's pages, beside those they replace.

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/PageInput.h"
 
+#include "cli/BookName.h"
 #include "cli/Command.h"
 #include "cli/ImageInput.h"
-#include "cli/InputName.h"
 #include "cli/OpenedPDF.h"
 #include "cli/PageNumbers.h"
 #include "cli/PDFImport.h"

@@ -10,6 +10,7 @@
 #include "templates/PropertyWalk.h"
 #include "templates/ScriptHazard.h"
 
+#include <QFileInfo>
 #include <QProcess>
 
 using namespace Qt::StringLiterals;
@@ -83,6 +84,8 @@ namespace {
         if (!options.force)
             place.requireReplaceable();
         place.requireWritable();
+        place.requireNameFits(
+            options.app ? QFileInfo(place.bookPath()).fileName() : options.pageFileName());
         place.requireOutside(filesRead(options, *flashTemplate));
 
         const PageInput input = readPages(options, report);

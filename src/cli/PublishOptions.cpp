@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/PublishOptions.h"
 
+#include "cli/BookName.h"
 #include "cli/Command.h"
-#include "cli/InputName.h"
 #include "pages/ImportQuality.h"
 
 #include <QFileInfo>
@@ -48,9 +48,10 @@ namespace {
     {
         command.add_option(
             "--title", options.title, "Title of the book [the PDF's own, else the file's name]");
-        command.add_option(
-            "--name", options.name, "File name of the page, or of the package [index.html]");
-        command.add_flag("--app", options.app, "Write a package NAME.app into the folder");
+        command.add_option("--name", options.name,
+            "File name of the page [index.html], or of the package [the input's]");
+        command.add_flag(
+            "--app", options.app, "Write a package NAME.app, which a double click opens");
     }
 
     void addWorkOptions(PublishOptions& options, CLI::App& command)
@@ -83,10 +84,9 @@ namespace {
     QString fileName(const std::string& name)
     {
         QString text = fromArgument(name);
-        if (text.contains(u'/') || text.startsWith(u'.'))
-            throw CommandFailure(ExitCode::WrongUsage,
-                u"--name %1: it must be a file name without a folder and without a dot in front"_s
-                    .arg(text));
+        const QString problem = nameProblem(text);
+        if (!problem.isEmpty())
+            throw CommandFailure(ExitCode::WrongUsage, u"--name %1: %2"_s.arg(text, problem));
         return text;
     }
 
@@ -123,19 +123,21 @@ QString PublishOptions::outputFolder() const
 
 QString PublishOptions::packageName() const
 {
-    QString packageName = name.empty() ? nameOfInput(inputs().constFirst())
-                                       : QFileInfo(fileName(name)).completeBaseName();
-    if (packageName.isEmpty())
-        throw CommandFailure(
-            ExitCode::WrongUsage, u"the package needs a name: give one with --name"_s);
+    QString packageName
+        = name ? packageNameOf(fileName(*name)) : nameOfInput(inputs().constFirst());
+    const QString problem = nameProblem(packageName);
+    if (!problem.isEmpty())
+        throw CommandFailure(ExitCode::WrongUsage,
+            u"the package can't be called \"%1\": %2; give it a name with --name"_s.arg(
+                packageName, problem));
     return packageName;
 }
 
 QString PublishOptions::pageFileName() const
 {
-    if (name.empty())
+    if (!name)
         return {};
-    const QString page = fileName(name);
+    const QString page = fileName(*name);
     return QFileInfo(page).suffix().isEmpty() ? page + u".html"_s : page;
 }
 

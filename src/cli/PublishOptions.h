@@ -16,7 +16,7 @@ struct PublishOptions {
     std::string pages = "ALL";
     int qualityLevel = 0;
     std::optional<std::string> title;
-    std::string name;
+    std::optional<std::string> name;
     TemplateOptions templateOptions;
     bool app = false;
     bool noLinks = false;

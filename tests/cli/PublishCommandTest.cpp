@@ -143,6 +143,22 @@ TEST_F(PublishCommand, WritesAPackageIntoTheFolder)
     EXPECT_TRUE(exists("out/Other.app/keep"));
 }
 
+TEST_F(PublishCommand, CallsThePackageAsItIsAsked)
+{
+    writeNumberedPDF(u"in.pdf"_s, 1);
+    const QString longest(251, u'x');
+    for (const auto& [name, package] : std::initializer_list<std::pair<QString, QString>>{
+             { u"\u00DCber \"50 %\" & 'co'.html"_s, u"\u00DCber \"50 %\" & 'co'.app"_s },
+             { u"Vol. 3"_s, u"Vol. 3.app"_s }, { u"Album."_s, u"Album.app"_s },
+             { longest, longest + u".app"_s } }) {
+        const Outcome outcome
+            = run({ u"publish"_s, u"in.pdf"_s, u"out"_s, u"--app"_s, u"--name"_s, name });
+        EXPECT_EQ(outcome.status, 0) << outcome.errors.toStdString();
+        EXPECT_TRUE(QFileInfo::exists(at(u"out/"_s + package + u"/Contents/Info.plist"_s)))
+            << outcome.output.toStdString();
+    }
+}
+
 TEST_F(PublishCommand, CtrlCEndsItWithoutABookOrHalfAPage)
 {
     writeNumberedPDF(u"in.pdf"_s, 3000);

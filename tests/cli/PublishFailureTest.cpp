@@ -84,7 +84,28 @@ TEST_F(PublishFailure, TemplatesStylesAndSettings)
     expectFailure("in.pdf book --set turnDuration=soon", 2, { "turnDuration", "number" });
     expectFailure("in.pdf book --set viewMode=Triple", 2, { "viewMode", "Single" });
     expectFailure("in.pdf book --set LogoFile=missing.png", 3, { "missing.png" });
-    expectFailure("in.pdf book --name a/b", 2, { "a/b" });
+}
+
+TEST_F(PublishFailure, NamesThatFilesCannotHave)
+{
+    writeNumberedPDF(u"in.pdf"_s, 1);
+    writeNumberedPDF(u".hidden.pdf"_s, 1);
+    const auto expectRefused = [this](const QStringList& options, int status, const char* reason) {
+        const Outcome outcome = run(QStringList{ u"publish"_s } + options);
+        EXPECT_EQ(outcome.status, status) << reason;
+        EXPECT_EQ(outcome.errors.count('\n'), 1) << outcome.errors.toStdString();
+        EXPECT_TRUE(outcome.errors.contains(reason)) << outcome.errors.toStdString();
+        EXPECT_FALSE(exists("book"));
+    };
+    for (const auto& [name, reason] : std::initializer_list<std::pair<QString, const char*>>{
+             { u""_s, "empty" }, { u"\t"_s, "empty" }, { u"a/b"_s, "folder" }, { u".."_s, "dot" },
+             { u".html"_s, "dot" }, { u"a\nb"_s, "control character" } })
+        for (const QString& kind : { u"--app"_s, u"--json"_s })
+            expectRefused({ u"in.pdf"_s, u"book"_s, kind, u"--name"_s, name }, 2, reason);
+    expectRefused({ u".hidden.pdf"_s, u"book"_s, u"--app"_s }, 2, "--name");
+    const QString tooLong(126, u'\u00FC');
+    expectRefused({ u"in.pdf"_s, u"book"_s, u"--app"_s, u"--name"_s, tooLong }, 4, "256 bytes");
+    expectRefused({ u"in.pdf"_s, u"book"_s, u"--name"_s, tooLong }, 4, "257 bytes");
 }
 
 TEST_F(PublishFailure, DamagedTemplatesAndStyles)
