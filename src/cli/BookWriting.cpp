@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "cli/BookWriting.h"
 
+#include "cli/ArchiveWriting.h"
 #include "cli/Command.h"
 #include "cli/Console.h"
+#include "cli/DiskRoom.h"
 #include "cli/Interrupt.h"
 #include "cli/OutputLock.h"
 #include "cli/ShownProgress.h"
@@ -156,7 +158,7 @@ void writeBook(const BookParts& parts, PublishReport& report)
     const auto writer = makeWriter(parts);
     configure(*writer, parts);
     parts.place.requireOutside(pictures(*parts.input.pageSource));
-    parts.place.requireRoomFor(*writer);
+    requireRoom(parts.place, *writer);
     parts.place.makeFolder();
     const OutputLock lock(parts.place.folder());
     waitFor(lock, parts);
@@ -166,6 +168,8 @@ void writeBook(const BookParts& parts, PublishReport& report)
     runWriter(*writer, parts.options, report);
     checkBook(*writer, parts.options.app, report);
     warnOfUnlistedPages(*writer, report);
+    if (const auto& archive = parts.place.archive())
+        writeArchive(*archive, *writer, parts, report);
 }
 
 } // namespace leafcast

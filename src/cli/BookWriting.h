@@ -18,7 +18,8 @@ struct BookParts {
     const std::shared_ptr<FlashTemplate>& flashTemplate;
 };
 
-/// Writes the book and looks at what the best-effort writer left; fills the report. Throws
+/// Writes the book, looks at what the best-effort writer left, and packs it where that is wanted;
+/// fills the report. Throws
 /// CommandFailure before anything is written when it can't be, and when the user interrupts.
 void writeBook(const BookParts& parts, PublishReport& report);
 

@@ -3,14 +3,10 @@
 
 #include "base/FileSteps.h"
 #include "base/FolderWalk.h"
-#include "cli/DataSize.h"
+#include "cli/DiskRoom.h"
 #include "cli/ExitCode.h"
 #include "publish/BookCheck.h"
-#include "publish/FlashBookOutput.h"
 
-#include <algorithm>
-#include <filesystem>
-#include <optional>
 #include <QDir>
 #include <QFileInfo>
 #include <unistd.h>
@@ -22,29 +18,12 @@ namespace leafcast {
 namespace {
 
     constexpr qsizetype namesShown = 5;
-    constexpr qint64 roomForTheRest = 1 << 20; // scripts, styles, reader data of a short book
 
     QString shortList(const QStringList& names)
     {
         const QString shown = names.mid(0, namesShown).join(u", "_s);
         const qsizetype hidden = names.size() - namesShown;
         return hidden > 0 ? u"%1 and %2 more"_s.arg(shown, QString::number(hidden)) : shown;
-    }
-
-    QString nearestExisting(const QString& absolutePath)
-    {
-        QString path = absolutePath;
-        while (!FileSteps::exists(path) && path != QFileInfo(path).path())
-            path = QFileInfo(path).path();
-        return path;
-    }
-
-    /// None when the system can't tell, as it happens in containers.
-    std::optional<qint64> freeBytes(const QString& folder)
-    {
-        std::error_code error;
-        const auto space = std::filesystem::space(QFile::encodeName(folder).toStdString(), error);
-        return error ? std::nullopt : std::optional(static_cast<qint64>(space.available));
     }
 
     /// Both canonical.
@@ -60,13 +39,17 @@ namespace {
 
 } // namespace
 
-OutputPlace::OutputPlace(const QString& folder, Kind kind, const QString& packageName)
+OutputPlace::OutputPlace(
+    const QString& folder, Kind kind, const QString& packageName, Packing packing)
     : iFolder(QDir::cleanPath(QFileInfo(folder).absoluteFilePath()))
     , iKind(kind)
-    , iPackagePath(QDir(iFolder).filePath(packageName + u".app"_s))
+    , iPackagePath(iFolder + u'/' + packageName + u".app"_s)
 {
     if (folder.isEmpty())
         throw CommandFailure(ExitCode::WrongUsage, u"the output folder has no name"_s);
+    if (packing == Packing::Zip)
+        iArchive.emplace(
+            (kind == Kind::Folder ? iFolder : iFolder + u'/' + packageName) + u".zip"_s);
 }
 
 void OutputPlace::requireReplaceable() const
@@ -75,6 +58,8 @@ void OutputPlace::requireReplaceable() const
         requireReplaceableFolder();
     else
         requireReplaceablePackage();
+    if (iArchive)
+        iArchive->requireReplaceable();
 }
 
 void OutputPlace::requireReplaceableFolder() const
@@ -105,6 +90,8 @@ void OutputPlace::requireWritable() const
         refuse(u"the output folder %1 can't be made: %2 is no folder"_s.arg(iFolder, nearest));
     if (access(QFile::encodeName(nearest).constData(), W_OK | X_OK) != 0)
         refuse(u"the output folder %1 can't be written to: %2"_s.arg(iFolder, qt_error_string()));
+    if (iArchive)
+        iArchive->requireWritable();
 }
 
 void OutputPlace::requireNameFits(const QString& name) const
@@ -118,41 +105,28 @@ void OutputPlace::requireNameFits(const QString& name) const
 }
 
 // Everything below these goes, or may go, while the book is written.
-QStringList OutputPlace::replacedFolders() const
+QStringList OutputPlace::replacedPaths() const
 {
-    if (iKind == Kind::Package)
-        return { iPackagePath };
-    return { iFolder + u"/files"_s, iFolder + u"/javascript"_s, iFolder + u"/style"_s };
+    QStringList paths = iKind == Kind::Package
+        ? QStringList{ iPackagePath }
+        : QStringList{ iFolder + u"/files"_s, iFolder + u"/javascript"_s, iFolder + u"/style"_s };
+    if (iArchive)
+        paths.append(iArchive->path());
+    return paths;
 }
 
 void OutputPlace::requireOutside(const QStringList& inputs) const
 {
-    for (const QString& folder : replacedFolders()) {
-        const QString replaced = QFileInfo(folder).canonicalFilePath();
+    for (const QString& path : replacedPaths()) {
+        const QString replaced = QFileInfo(path).canonicalFilePath();
         if (replaced.isEmpty())
             continue;
         for (const QString& input : inputs)
             if (isInside(QFileInfo(input).canonicalFilePath(), replaced))
                 refuse(
                     u"%1 lies in %2, which the book would replace; copy it elsewhere first"_s.arg(
-                        input, folder));
+                        input, path));
     }
-}
-
-void OutputPlace::requireRoomFor(const FlashBookOutput& writer) const
-{
-    qint64 needed = roomForTheRest;
-    qint64 largest = 0; // a picture is written beside the one that it replaces
-    for (const auto& page : writer.flashPageSource()->normalPages()) {
-        const qint64 size = QFileInfo(page->pageFilePath()).size();
-        needed += size - QFileInfo(writer.pageFileName(*page)).size();
-        largest = std::max(largest, size);
-    }
-    needed = std::max(needed, roomForTheRest) + largest;
-    const std::optional<qint64> available = freeBytes(nearestExisting(iFolder));
-    if (available && needed > *available)
-        refuse(u"there is no room for the book in %1: it needs %2 more, and the disk has %3 left"_s
-                   .arg(iFolder, dataSize(needed), dataSize(*available)));
 }
 
 void OutputPlace::makeFolder() const

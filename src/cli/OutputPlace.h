@@ -1,21 +1,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/ArchivePlace.h"
+
+#include <optional>
 #include <QString>
 #include <QStringList>
 
 namespace leafcast {
 
-class FlashBookOutput;
-
-/// Where a book goes: a folder, or a package NAME.app inside a folder. What it requires it requires
-/// before anything is changed; a failure is a CommandFailure.
+/// Where a book goes: a folder, or a package NAME.app inside a folder; and its archive, where one
+/// is wanted: FOLDER.zip beside the folder, or NAME.zip beside the package. What it requires it
+/// requires before anything is changed; a failure is a CommandFailure.
 class OutputPlace {
 public:
     enum class Kind { Folder, Package };
+    enum class Packing { None, Zip };
 
     /// packageName: without extension; not used for a folder.
-    OutputPlace(const QString& folder, Kind kind, const QString& packageName);
+    OutputPlace(const QString& folder, Kind kind, const QString& packageName, Packing packing);
 
     /// Refuses what is no book of ours, naming what would be lost.
     void requireReplaceable() const;
@@ -25,23 +28,23 @@ public:
     void requireNameFits(const QString& name) const;
     /// Refuses to read a file that the output would replace.
     void requireOutside(const QStringList& inputs) const;
-    /// Refuses when the disk has too little room for the writer's pages, beside those they replace.
-    void requireRoomFor(const FlashBookOutput& writer) const;
 
     void makeFolder() const;
 
     const QString& folder() const { return iFolder; }
     /// The folder or the package.
     const QString& bookPath() const { return iKind == Kind::Folder ? iFolder : iPackagePath; }
+    const std::optional<ArchivePlace>& archive() const { return iArchive; }
 
 private:
     void requireReplaceableFolder() const;
     void requireReplaceablePackage() const;
-    QStringList replacedFolders() const;
+    QStringList replacedPaths() const;
 
     QString iFolder; // absolute
     Kind iKind;
     QString iPackagePath;
+    std::optional<ArchivePlace> iArchive;
 };
 
 } // namespace leafcast

@@ -22,7 +22,9 @@ namespace {
     OutputPlace outputPlace(const PublishOptions& options)
     {
         const auto kind = options.app ? OutputPlace::Kind::Package : OutputPlace::Kind::Folder;
-        return { options.outputFolder(), kind, options.app ? options.packageName() : QString() };
+        const auto packing = options.zip ? OutputPlace::Packing::Zip : OutputPlace::Packing::None;
+        return { options.outputFolder(), kind, options.app ? options.packageName() : QString(),
+            packing };
     }
 
     QStringList filesRead(const PublishOptions& options, const FlashTemplate& flashTemplate)
@@ -52,7 +54,8 @@ namespace {
         for (const QString& file : report.missingFiles)
             Console::sayError(u"%1 could not be written into the book"_s.arg(file));
         if (!options.quiet)
-            Console::say(report.summary());
+            for (const QString& line : report.summary())
+                Console::say(line);
     }
 
     void tellPrograms(const PublishOptions& options, const PublishReport& report)

@@ -52,6 +52,8 @@ namespace {
             "File name of the page [index.html], or of the package [the input's]");
         command.add_flag(
             "--app", options.app, "Write a package NAME.app, which a double click opens");
+        command.add_flag("--zip", options.zip,
+            "Pack the book too, for sending: OUT_FOLDER.zip, or NAME.zip of a package");
     }
 
     void addWorkOptions(PublishOptions& options, CLI::App& command)

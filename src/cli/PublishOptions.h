@@ -19,6 +19,7 @@ struct PublishOptions {
     std::optional<std::string> name;
     TemplateOptions templateOptions;
     bool app = false;
+    bool zip = false;
     bool noLinks = false;
     bool noOutline = false;
     PasswordOptions passwordOptions;

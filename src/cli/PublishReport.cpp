@@ -35,30 +35,43 @@ namespace {
 
 QByteArray PublishReport::asJson() const
 {
-    const QJsonObject times{ { u"import"_s, roundedToMilliseconds(importSeconds) },
+    QJsonObject times{ { u"import"_s, roundedToMilliseconds(importSeconds) },
         { u"write"_s, roundedToMilliseconds(writeSeconds) },
-        { u"total"_s, roundedToMilliseconds(importSeconds + writeSeconds) } };
-    return QJsonDocument(QJsonObject{
-                             { u"version"_s, formatVersion },
-                             { u"complete"_s, isComplete() },
-                             { u"input"_s, input },
-                             { u"output"_s, output },
-                             { u"page"_s, page },
-                             { u"title"_s, title },
-                             { u"pages"_s, pageCount },
-                             { u"bytes"_s, bytes },
-                             { u"missingPages"_s, asJsonList(missingPages) },
-                             { u"missingFiles"_s, QJsonArray::fromStringList(missingFiles) },
-                             { u"warnings"_s, QJsonArray::fromStringList(warnings) },
-                             { u"seconds"_s, times },
-                         })
-        .toJson();
+        { u"total"_s, roundedToMilliseconds(totalSeconds()) } };
+    QJsonObject report{
+        { u"version"_s, formatVersion },
+        { u"complete"_s, isComplete() },
+        { u"input"_s, input },
+        { u"output"_s, output },
+        { u"page"_s, page },
+        { u"title"_s, title },
+        { u"pages"_s, pageCount },
+        { u"bytes"_s, bytes },
+        { u"missingPages"_s, asJsonList(missingPages) },
+        { u"missingFiles"_s, QJsonArray::fromStringList(missingFiles) },
+        { u"warnings"_s, QJsonArray::fromStringList(warnings) },
+    };
+    if (archive) {
+        report[u"archive"_s]
+            = QJsonObject{ { u"path"_s, archive->path }, { u"bytes"_s, archive->bytes } };
+        times[u"archive"_s] = roundedToMilliseconds(archive->seconds);
+    }
+    report[u"seconds"_s] = times;
+    return QJsonDocument(report).toJson();
 }
 
-QString PublishReport::summary() const
+double PublishReport::totalSeconds() const
 {
-    return u"%1, %2, in %3 s"_s.arg(countOfPages(pageCount), dataSize(bytes),
-        QString::number(importSeconds + writeSeconds, 'f', 1));
+    return importSeconds + writeSeconds + (archive ? archive->seconds : 0);
+}
+
+QStringList PublishReport::summary() const
+{
+    QStringList lines{ u"%1, %2, in %3 s"_s.arg(
+        countOfPages(pageCount), dataSize(bytes), QString::number(totalSeconds(), 'f', 1)) };
+    if (archive)
+        lines.append(u"packed into %1, %2"_s.arg(archive->path, dataSize(archive->bytes)));
+    return lines;
 }
 
 QStringList PublishReport::missingPageSentences() const

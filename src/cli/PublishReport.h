@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -24,14 +25,22 @@ struct PublishReport {
     std::vector<MissingPage> missingPages;
     QStringList missingFiles; // of the book, relative to output
     QStringList warnings;
+    struct Archive {
+        QString path;
+        qint64 bytes = 0;
+        double seconds = 0;
+    };
+
+    std::optional<Archive> archive;
     double importSeconds = 0;
     double writeSeconds = 0;
 
     bool isComplete() const { return missingPages.empty() && missingFiles.isEmpty(); }
     /// Version 1 of the report's format.
     QByteArray asJson() const;
-    /// "16 pages, 2.1 MB, in 1.3 s"
-    QString summary() const;
+    double totalSeconds() const;
+    /// "16 pages, 2.1 MB, in 1.3 s", and a line on the archive.
+    QStringList summary() const;
     /// "pages 8-16 are missing: REASON"; pages in a row with one reason share a sentence.
     QStringList missingPageSentences() const;
 };

@@ -47,7 +47,10 @@ std::vector<BookArchive::Entry> BookArchive::entries() const
 
 void BookArchive::collect(const QString& folder, std::vector<Entry>& entries) const
 {
-    for (const QString& name : FolderWalk::entryNames(iBook + u'/' + folder)) {
+    const QFileInfo itself(iBook + u'/' + folder);
+    if (!itself.isReadable() || !itself.isExecutable()) // would look empty
+        throw ArchiveFailure(u"the folder %1 can't be read"_s.arg(itself.filePath()));
+    for (const QString& name : FolderWalk::entryNames(itself.filePath())) {
         const QString path = folder + name;
         const QFileInfo info(iBook + u'/' + path);
         if (!iBelongs(path))

@@ -6,7 +6,7 @@
 #include <archive.h>
 #include <archive_entry.h>
 #include <memory>
-#include <QFile>
+#include <QFileInfo>
 #include <string_view>
 
 namespace leafcast {
@@ -43,6 +43,8 @@ namespace {
 
 bool isBookArchive(const QString& path)
 {
+    if (!QFileInfo(path).isFile()) // a pipe would wait for its writer
+        return false;
     const UTF8Locale locale;
     const std::unique_ptr<archive, int (*)(archive*)> zip(archive_read_new(), archive_read_free);
     archive_read_support_format_zip_seekable(zip.get());

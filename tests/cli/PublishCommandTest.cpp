@@ -50,6 +50,7 @@ TEST_F(PublishCommand, TakesNamesThatLookLikeSomethingElse)
     EXPECT_TRUE(exists(":out/files/page/1.jpg"));
     EXPECT_EQ(run("publish [2023]/ out --app").status, 0);
     EXPECT_TRUE(exists("out/[2023].app"));
+    EXPECT_EQ(run("publish :b.jpg out --app --json").json()[u"output"_s], at(u"out/:b.app"_s));
 }
 
 TEST_F(PublishCommand, TakesTheTitleFromOptionDocumentOrFileAndEscapesTheLastTwo)
@@ -128,6 +129,30 @@ TEST_F(PublishCommand, ReplacesAnEarlierBookButNothingElse)
 
     EXPECT_EQ(run("publish in.pdf thesis --force").status, 0);
     EXPECT_EQ(content("thesis/chapter.txt"), "years of work");
+}
+
+TEST_F(PublishCommand, PacksTheBookOrPackageBesideItButOverNothingElse)
+{
+    writeNumberedPDF(u"in.pdf"_s, 2);
+    const QJsonObject packed = run("publish in.pdf book/ --zip --json").json();
+    EXPECT_EQ(packed[u"archive"_s][u"path"_s], at(u"book.zip"_s));
+    EXPECT_EQ(packed[u"archive"_s][u"bytes"_s], QFileInfo(at(u"book.zip"_s)).size());
+    const Outcome again = run("publish in.pdf book --zip --pages 2-3");
+    EXPECT_EQ(again.status, 1);
+    EXPECT_TRUE(again.errors.contains(at(u"book.zip, "_s).toUtf8())) << again.errors.toStdString();
+    EXPECT_FALSE(content("book.zip").contains("page/1.jpg"));
+    EXPECT_EQ(run("publish in.pdf out --app --zip --name Album").status, 0);
+    EXPECT_TRUE(content("out/Album.zip").contains("Album.app/Contents/Resources/index.html"));
+
+    writeTestFile(at(u"other.zip"_s), "a thesis");
+    const Outcome refused = run("publish in.pdf other --zip");
+    EXPECT_EQ(refused.status, 4);
+    EXPECT_TRUE(refused.errors.contains("other.zip")) << refused.errors.toStdString();
+    EXPECT_FALSE(exists("other"));
+    EXPECT_EQ(content("other.zip"), "a thesis");
+    EXPECT_EQ(run("publish in.pdf other --zip --force").status, 0);
+    EXPECT_TRUE(content("other.zip").startsWith("PK"));
+    EXPECT_EQ(run("publish in.pdf / --zip --force").status, 2);
 }
 
 TEST_F(PublishCommand, WritesAPackageIntoTheFolder)

@@ -131,6 +131,7 @@ TEST_F(BookArchiveTest, StoppedOrFailedItLeavesTheOlderFileAndNoOther)
         EXPECT_EQ(reason(zip), "File too large");
     }
     EXPECT_EQ(reason(resources.path(u"nowhere/book.zip"_s)), "No such file or directory");
+    EXPECT_THROW((void)BookArchive(inBook(u"nowhere"_s)).writeTo(zip), ArchiveFailure);
     EXPECT_EQ(FileSteps::read(zip), "older");
     EXPECT_EQ(names(), former);
 }
