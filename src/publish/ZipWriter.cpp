@@ -4,7 +4,6 @@
 #include "base/FileDescriptor.h"
 #include "base/SystemError.h"
 
-#include <archive.h>
 #include <archive_entry.h>
 #include <array>
 #include <fcntl.h>
@@ -37,17 +36,6 @@ namespace {
         return errno ? systemErrorText() : file.errorString();
     }
 
-    la_ssize_t writeBlock(archive* self, void* file, const void* bytes, size_t size)
-    {
-        auto& output = *static_cast<QSaveFile*>(file);
-        const auto length = static_cast<qint64>(size);
-        errno = 0;
-        if (output.write(static_cast<const char*>(bytes), length) == length)
-            return static_cast<la_ssize_t>(size);
-        archive_set_error(self, errno, "%s", qUtf8Printable(reasonOf(output)));
-        return -1;
-    }
-
     [[noreturn]] void failReading(const QString& path, const QString& reason)
     {
         throw ArchiveFailure(u"%1 can't be read: %2"_s.arg(path, reason));
@@ -55,27 +43,36 @@ namespace {
 
 } // namespace
 
+void ZipWriter::Output::write(const char* bytes, qint64 size)
+{
+    errno = 0;
+    if (failure.isEmpty() && file.write(bytes, size) != size)
+        failure = reasonOf(file);
+}
+
+la_ssize_t ZipWriter::writeBlock(archive*, void* output, const void* bytes, size_t size)
+{
+    static_cast<Output*>(output)->write(static_cast<const char*>(bytes), static_cast<qint64>(size));
+    return static_cast<la_ssize_t>(size);
+}
+
 ZipWriter::ZipWriter(const QString& path)
-    : iFile(path)
+    : iOutput{ .file = QSaveFile(path), .failure = {} }
     , iArchive(archive_write_new(), archive_write_free)
 {
-    if (!iFile.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        throw ArchiveFailure(iFile.errorString());
+    if (!iOutput.file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        throw ArchiveFailure(iOutput.file.errorString());
     archive* const zip = iArchive.get();
     require(archive_write_set_format_zip(zip) == ARCHIVE_OK
         && archive_write_set_bytes_per_block(zip, bufferSize) == ARCHIVE_OK
         && archive_write_set_bytes_in_last_block(zip, 1) == ARCHIVE_OK
-        && archive_write_open2(zip, &iFile, nullptr, writeBlock, nullptr, nullptr) == ARCHIVE_OK);
-}
-
-ZipWriter::~ZipWriter()
-{
-    // Freed without, an archive would be finished first.
-    archive_write_fail(iArchive.get());
+        && archive_write_open2(zip, &iOutput, nullptr, writeBlock, nullptr, nullptr) == ARCHIVE_OK);
 }
 
 void ZipWriter::require(bool succeeded) const
 {
+    if (!iOutput.failure.isEmpty())
+        throw ArchiveFailure(iOutput.failure);
     if (!succeeded)
         throw ArchiveFailure(QString::fromUtf8(archive_error_string(iArchive.get())));
 }
@@ -146,8 +143,8 @@ void ZipWriter::commit()
 {
     require(archive_write_close(iArchive.get()) == ARCHIVE_OK);
     errno = 0;
-    if (!iFile.flush() || !iFile.commit())
-        throw ArchiveFailure(reasonOf(iFile));
+    if (!iOutput.file.flush() || !iOutput.file.commit())
+        throw ArchiveFailure(reasonOf(iOutput.file));
 }
 
 } // namespace leafcast

@@ -4,11 +4,9 @@
 #include "publish/ArchiveFailure.h"
 #include "publish/UTF8Locale.h"
 
+#include <archive.h>
 #include <memory>
 #include <QSaveFile>
-
-struct archive;
-struct archive_entry;
 
 namespace leafcast {
 
@@ -19,7 +17,7 @@ namespace leafcast {
 class ZipWriter {
 public:
     explicit ZipWriter(const QString& path);
-    ~ZipWriter();
+    ~ZipWriter() = default;
     ZipWriter(const ZipWriter&) = delete;
     ZipWriter& operator=(const ZipWriter&) = delete;
 
@@ -32,13 +30,24 @@ public:
 private:
     using Entry = std::unique_ptr<archive_entry, void (*)(archive_entry*)>;
 
+    /// The file below the archive. It takes blocks after a failure too, and drops them: told of
+    /// one, libarchive would not free its buffers.
+    struct Output {
+        QSaveFile file;
+        QString failure;
+
+        void write(const char* bytes, qint64 size);
+    };
+
+    static la_ssize_t writeBlock(archive*, void* output, const void* bytes, size_t size);
     static Entry makeEntry(const QString& name);
     void addHeader(archive_entry* entry);
     void addContent(int file, qint64 size, const QString& path);
+    /// Throws for a call of libarchive that did not succeed, or for a block that was lost in it.
     void require(bool succeeded) const;
 
     UTF8Locale iLocale;
-    QSaveFile iFile;
+    Output iOutput;
     std::unique_ptr<archive, int (*)(archive*)> iArchive;
 };
 
