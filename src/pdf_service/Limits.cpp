@@ -73,6 +73,4 @@ RequestWatch::~RequestWatch()
     tickEverySecond(false);
 }
 
-void enterSandbox() { }
-
 } // namespace leafcast::service

@@ -23,9 +23,4 @@ public:
     RequestWatch& operator=(const RequestWatch&) = delete;
 };
 
-/// Called when a document has been opened and before anything of it is interpreted: the place where
-/// a sandbox closes the file system and the network. Files are opened by the worker itself only
-/// here and for the pictures.
-void enterSandbox();
-
 } // namespace leafcast::service

@@ -136,7 +136,6 @@ QJsonObject RequestHandler::open(const QJsonObject& request)
     iDocument.reset();
     iDocument
         = std::make_unique<Document>(iLibrary, fields.text("path"), fields.textOrEmpty("password"));
-    enterSandbox();
     return { { u"pages"_s, iDocument->pageCount() }, { u"title"_s, iDocument->title() },
         { u"repaired"_s, iDocument->isRepaired() }, { u"encrypted"_s, iDocument->isEncrypted() } };
 }
