@@ -63,7 +63,7 @@ namespace {
 
     QString folderToServe(const QString& path)
     {
-        const QString book = QFileInfo(path).canonicalFilePath();
+        QString book = QFileInfo(path).canonicalFilePath();
         if (isBookPackage(book))
             return book + u"/Contents/Resources"_s;
         if (isBookFolder(book))
@@ -90,6 +90,7 @@ namespace {
             refuse(u"%1 can't be served: %2"_s.arg(folder, systemErrorText()));
         arguments.insert(arguments.begin(), program.toStdString());
         std::vector<char*> pointers;
+        pointers.reserve(arguments.size() + 1);
         for (std::string& argument : arguments)
             pointers.push_back(argument.data());
         pointers.push_back(nullptr);

@@ -17,7 +17,7 @@ class BookArchive {
 public:
     /// Told a path in the book; an entry that does not belong is left out with all that it holds.
     using Belongs = std::function<bool(const QString& relativePath)>;
-    /// Told after each file, on the thread that writes.
+    /// Told after each file and folder, on the thread that writes.
     using Progress = std::function<void(int done, int total)>;
 
     /// book: the path of a folder that has a name.
