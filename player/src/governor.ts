@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+
+/** How much work a frame may be. Steps down while frames come late; a new turn starts at the top. */
+export interface Quality {
+  readonly fullPixels: boolean; // else one canvas pixel a CSS pixel
+  readonly stripsPerQuarter: number; // 0: a flat fold
+}
+
+const LEVELS: readonly Quality[] = [
+  { fullPixels: true, stripsPerQuarter: 8 },
+  { fullPixels: false, stripsPerQuarter: 8 },
+  { fullPixels: false, stripsPerQuarter: 3 },
+  { fullPixels: false, stripsPerQuarter: 0 },
+];
+const LATE_SECONDS = 0.02;
+const LATE_FRAMES = 2;
+
+export class Governor {
+  private level = 0;
+  private late = 0;
+
+  get quality(): Quality {
+    return LEVELS[this.level]!;
+  }
+
+  frame(seconds: number): void {
+    this.late = seconds > LATE_SECONDS ? this.late + 1 : 0;
+    if (this.late < LATE_FRAMES) return;
+    this.late = 0;
+    this.level = Math.min(this.level + 1, LEVELS.length - 1);
+  }
+
+  /** One step up, so that a machine that was busy once is not judged by it for ever. */
+  rest(): void {
+    this.late = 0;
+    this.level = Math.max(this.level - 1, 0);
+  }
+}

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+import { type Box, fit, type Size } from './geometry.ts';
+
+/** Where the open book lies, in CSS pixels from the top left of the space it is given. */
+export interface Layout {
+  readonly double: boolean;
+  readonly leaf: Size;
+  /** Both leaves, or the one. */
+  readonly book: Box;
+  readonly hingeX: number;
+}
+
+export type Mode = 'auto' | 'single' | 'double';
+
+/** Two pages may be this much smaller than one alone before one alone is better. */
+const SMALLEST_SPREAD = 0.6;
+
+export function layoutBook(space: Size, shape: number, mode: Mode, rightToLeft: boolean): Layout {
+  const double = mode === 'double' || (mode === 'auto' && suitsSpread(space, shape));
+  const free = fit(double ? 2 * shape : shape, space);
+  // Whole pixels, so that a leaf in the air covers the one at rest exactly.
+  const leaf = { width: Math.floor(double ? free.width / 2 : free.width), height: Math.floor(free.height) };
+  const width = double ? 2 * leaf.width : leaf.width;
+  const x = Math.round((space.width - width) / 2);
+  const y = Math.round((space.height - leaf.height) / 2);
+  const singleHinge = rightToLeft ? x + width : x;
+  return { double, leaf, book: { x, y, width, height: leaf.height }, hingeX: double ? x + leaf.width : singleHinge };
+}
+
+function suitsSpread(space: Size, shape: number): boolean {
+  return fit(2 * shape, space).height >= SMALLEST_SPREAD * fit(shape, space).height;
+}

@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+import { Flight, type Leaf } from './flight.ts';
+import type { Point, Size } from './geometry.ts';
+import { Governor, type Quality } from './governor.ts';
+import { LeafMotion } from './leafMotion.ts';
+
+export type FlyingLeaf = Leaf<LeafMotion>;
+
+export interface TurningEvents {
+  /** Something moved and is to be drawn. */
+  frame(quality: Quality): void;
+  /** A leaf was launched or landed: other pages are seen or will be. */
+  changed(): void;
+  settled(spread: number): void;
+}
+
+const LONGEST_STEP_SECONDS = 0.05; // after a pause the leaf goes on from where it was
+const FIRST_STEP_SECONDS = 1 / 60;
+
+/** Moves leaves frame by frame, and asks for no frame while nothing moves. */
+export class Turning {
+  private readonly flight: Flight<LeafMotion>;
+  private readonly governor = new Governor();
+  private request = 0;
+  private last = 0;
+  private shown = '';
+
+  constructor(
+    spreadCount: number,
+    start: number,
+    leaf: Size, // with the height 1
+    stiffness: number,
+    private readonly events: TurningEvents,
+  ) {
+    const launch = (_from: number, _to: number, side: 0 | 1) => new LeafMotion(leaf, side, stiffness);
+    this.flight = new Flight(spreadCount, { launch }, start);
+  }
+
+  get lowest(): number {
+    return this.flight.lowest;
+  }
+
+  get highest(): number {
+    return this.flight.highest;
+  }
+
+  get destination(): number {
+    return this.flight.destination;
+  }
+
+  get isMoving(): boolean {
+    return this.flight.isMoving;
+  }
+
+  /** The lowest first. Those past the middle lie on the start side, the later the higher. */
+  get leaves(): FlyingLeaf[] {
+    const onEndSide = this.flight.leaves.filter((leaf) => leaf.mover.progress < 0.5).reverse();
+    return [...onEndSide, ...this.flight.leaves.filter((leaf) => leaf.mover.progress >= 0.5)];
+  }
+
+  turn(count: number): boolean {
+    const turned = this.flight.turn(count);
+    this.wake();
+    return turned;
+  }
+
+  jump(spread: number): void {
+    this.flight.jump(spread);
+    this.wake();
+  }
+
+  settle(spread: number): void {
+    this.flight.settle(spread);
+    this.wake();
+  }
+
+  /** Takes the next leaf of a side at a point in its coordinates. */
+  hold(step: 1 | -1, pointer: Point): FlyingLeaf | undefined {
+    const flying = new Set(this.flight.leaves);
+    const leaf = this.flight.hold(step);
+    if (leaf) leaf.mover.hold(pointer, flying.has(leaf) ? undefined : step > 0 ? 0 : 1);
+    this.wake();
+    return leaf;
+  }
+
+  drag(leaf: FlyingLeaf, pointer: Point): void {
+    leaf.mover.drag(pointer);
+    this.wake();
+  }
+
+  /** Lets a leaf go with a velocity in its heights a second. */
+  release(leaf: FlyingLeaf, velocity: Point): void {
+    leaf.target = leaf.mover.release(velocity);
+    leaf.held = false;
+    this.wake();
+  }
+
+  /** Back to the side it came from. */
+  drop(leaf: FlyingLeaf, target: 0 | 1): void {
+    leaf.target = target;
+    leaf.held = false;
+    this.wake();
+  }
+
+  private wake(): void {
+    if (this.request) return;
+    this.last = 0;
+    this.request = requestAnimationFrame((now) => this.tick(now));
+  }
+
+  private tick(now: number): void {
+    const seconds = this.last ? (now - this.last) / 1000 : FIRST_STEP_SECONDS;
+    this.last = now;
+    this.request = 0;
+    this.governor.frame(seconds);
+    this.advance(Math.min(seconds, LONGEST_STEP_SECONDS));
+    this.tellOfChange();
+    this.events.frame(this.governor.quality);
+    if (!this.flight.isMoving) {
+      this.governor.rest();
+      this.events.settled(this.flight.lowest);
+    } else if (!this.flight.leaves.every((leaf) => leaf.held))
+      this.request = requestAnimationFrame((next) => this.tick(next));
+  }
+
+  private advance(seconds: number): void {
+    this.flight.advance(seconds);
+    for (const leaf of this.flight.leaves) if (!leaf.held) leaf.mover.step(leaf.target, seconds);
+    this.flight.land((leaf) => leaf.mover.hasLanded(leaf.target));
+  }
+
+  private tellOfChange(): void {
+    const shown = `${this.flight.lowest} ${this.flight.leaves.map((leaf) => leaf.to).join(' ')}`;
+    if (shown === this.shown) return;
+    this.shown = shown;
+    this.events.changed();
+  }
+}
