@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
+import { AirView, type LeafInTheAir } from './airView.ts';
 import { type Book, isWide } from './book.ts';
-import { type FaceSource, type HingeSide, type Paper, paintFace } from './facePainter.ts';
-import type { Point, Size } from './geometry.ts';
+import { makeCanvas, putCanvas } from './canvas.ts';
+import { type FaceSource, type HingeSide, type Paper, paintFace, pictureBox } from './facePainter.ts';
+import type { Box, Point, Size } from './geometry.ts';
 import type { Quality } from './governor.ts';
 import { type Layout, layoutBook, type Mode } from './layout.ts';
-import { type LeafFaces, paintLeaf } from './leafPainter.ts';
+import type { FacePainter } from './leafPainter.ts';
 import { type PictureRequest, Pictures } from './pictures.ts';
+import { type PlacedPage, SharpView } from './sharpView.ts';
 import { arrange, type Face, placesOf, type Spread, spreadOf } from './spreads.ts';
 import { type FlyingLeaf, Turning } from './turning.ts';
+import { keptInSight, NO_ZOOM, seenBox, type Zoom } from './zoom.ts';
 
 export interface ViewOptions {
   readonly mode: Mode;
@@ -18,44 +22,51 @@ export interface ViewOptions {
 }
 
 export interface ViewEvents {
-  /** Other pages lie open; what was under way has landed. */
+  /** Other pages will lie open when all has landed. */
+  turned(places: readonly number[]): void;
+  /** They lie open. */
   settled(places: readonly number[]): void;
+  /** Places or sizes of pages on the screen changed. */
+  placed(pages: readonly PlacedPage[]): void;
+  zoomed(zoom: Zoom): void;
 }
 
-type Side = 'start' | 'end';
+export type Side = 'start' | 'end';
 
-/** What a leaf may rise above and below the book, of its height. */
-const HEADROOM = 0.25;
 /** A critically damped spring has come to rest to the eye after this many radians. */
 const RADIANS_OF_A_TURN = 9.5;
 const SPREADS_AHEAD = 2;
 const SPREADS_BEHIND = 1;
+const FULL: Quality = { fullPixels: true, stripsPerQuarter: 8 };
 
-/** The open book: two resting sides, each on a canvas, and a canvas for the leaves in the air. */
+/**
+ * The open book: two resting sides and the leaves in the air, in a sheet that zooming scales. Knows
+ * places and spreads; what hands, keys and addresses do to it is said by its methods.
+ */
 export class BookView {
-  private readonly sides: Record<Side, HTMLCanvasElement>;
-  private readonly air: HTMLCanvasElement;
+  readonly sheet = document.createElement('div');
+  private readonly sides: Record<Side, HTMLCanvasElement> = { start: makeCanvas('side'), end: makeCanvas('side') };
+  private readonly air = new AirView();
   private readonly pictures: Pictures;
+  private readonly sharp: SharpView;
   private readonly source: FaceSource;
   private layout!: Layout;
   private spreads: Spread[] = [];
   private turning!: Turning;
   private mode: Mode;
+  private zoomed = NO_ZOOM;
 
   constructor(
-    private readonly host: HTMLElement,
+    readonly host: HTMLElement,
     private readonly book: Book,
-    private readonly options: ViewOptions,
+    readonly options: ViewOptions,
     private readonly events: ViewEvents,
     place: number,
   ) {
     this.mode = options.mode;
-    this.sides = { start: canvas('side'), end: canvas('side') };
-    this.air = canvas('air');
-    host.append(this.sides.start, this.sides.end, this.air);
     const page = (at: number) => this.book.pages[at - 1];
     this.pictures = new Pictures(
-      (at) => page(at)?.image ?? '',
+      (at) => (page(at)?.width === 0 ? '' : (page(at)?.image ?? '')),
       (at) => ({ width: page(at)?.width ?? 0, height: page(at)?.height ?? 0 }),
       () => this.paintAll(),
     );
@@ -64,26 +75,108 @@ export class BookView {
       shape: (at) => (page(at)?.height ? page(at)!.width / page(at)!.height : 0),
       label: (at) => page(at)?.label ?? '',
     };
+    this.sharp = new SharpView(this.pictures);
+    this.sheet.className = 'sheet';
+    this.sheet.append(this.sides.start, this.sides.end, this.sharp.element, this.air.element);
+    host.append(this.sheet);
     this.arrangeAt(place);
     new ResizeObserver(() => this.arrangeAt(this.place)).observe(host);
   }
 
-  /** The first page that lies open, or will when all has landed. */
+  /** Of the pages that lie open, or will when all has landed, in reading order. */
+  get places(): number[] {
+    return this.placesAt(this.turning.destination);
+  }
+
   get place(): number {
-    return this.placesAt(this.turning.destination)[0] ?? 1;
+    return this.places[0] ?? 1;
+  }
+
+  get isDouble(): boolean {
+    return this.layout.double;
+  }
+
+  get zoom(): Zoom {
+    return this.zoomed;
+  }
+
+  get flying(): readonly FlyingLeaf[] {
+    return this.turning.leaves;
   }
 
   turn(count: number): boolean {
-    return this.turning.turn(count);
+    const turned = this.turning.turn(count);
+    if (turned) this.events.turned(this.places);
+    return turned;
   }
 
   goTo(place: number): void {
     this.turning.jump(spreadOf(this.spreads, place));
+    this.events.turned(this.places);
   }
 
   setMode(mode: Mode): void {
     this.mode = mode;
     this.arrangeAt(this.place);
+  }
+
+  setZoom(zoom: Zoom): void {
+    const space = this.space();
+    this.zoomed = keptInSight(zoom, this.layout.book, space);
+    const { scale, offset } = this.zoomed;
+    this.sheet.style.transform = scale === 1 ? '' : `translate(${offset.x}px, ${offset.y}px) scale(${scale})`;
+    if (scale > 1) this.sharp.showSoon(this.placedPages(), seenBox(this.zoomed, space), scale);
+    else this.sharp.clear();
+    this.events.zoomed(this.zoomed);
+  }
+
+  /** A point of the host, in CSS pixels, in leaf coordinates (see curl.ts) with the height 1. */
+  leafPoint(point: Point): Point {
+    const mirror = this.options.rightToLeft ? -1 : 1;
+    const { scale, offset } = this.zoomed;
+    const x = (point.x - offset.x) / scale - this.layout.hingeX;
+    const y = (point.y - offset.y) / scale - this.layout.book.y;
+    return { x: (x * mirror) / this.layout.leaf.height, y: y / this.layout.leaf.height };
+  }
+
+  /** Of a leaf with the height 1. */
+  get leafShape(): number {
+    return this.layout.leaf.width / this.layout.leaf.height;
+  }
+
+  /** CSS pixels of the height that leaf coordinates have as their unit. */
+  get leafPixels(): number {
+    return this.layout.leaf.height * this.zoomed.scale;
+  }
+
+  hold(step: 1 | -1, pointer: Point): FlyingLeaf | undefined {
+    return this.turning.hold(step, pointer);
+  }
+
+  drag(leaf: FlyingLeaf, pointer: Point): void {
+    this.turning.drag(leaf, pointer);
+  }
+
+  release(leaf: FlyingLeaf, velocity: Point): void {
+    this.turning.release(leaf, velocity);
+    this.events.turned(this.places);
+  }
+
+  drop(leaf: FlyingLeaf, target: 0 | 1): void {
+    this.turning.drop(leaf, target);
+    this.events.turned(this.places);
+  }
+
+  retry(place: number): void {
+    this.pictures.retry(place);
+  }
+
+  hasFailed(place: number): boolean {
+    return this.book.pages[place - 1]?.width === 0 || this.pictures.hasFailed(place);
+  }
+
+  private space(): Size {
+    return { width: this.host.clientWidth, height: this.host.clientHeight };
   }
 
   private placesAt(spread: number): number[] {
@@ -92,7 +185,7 @@ export class BookView {
   }
 
   private arrangeAt(place: number): void {
-    const space = { width: this.host.clientWidth, height: this.host.clientHeight };
+    const space = this.space();
     if (!space.width || !space.height) return;
     this.layout = layoutBook(space, this.book.shape, this.mode, this.options.rightToLeft);
     this.spreads = arrange({
@@ -101,37 +194,42 @@ export class BookView {
       coverAlone: this.options.coverAlone,
       isWide: (at) => isWide(this.book.pages[at - 1], this.book.shape),
     });
-    this.turning = new Turning(
-      this.spreads.length,
-      spreadOf(this.spreads, place),
-      { width: this.layout.leaf.width / this.layout.leaf.height, height: 1 },
-      RADIANS_OF_A_TURN / this.options.turnSeconds,
-      {
-        frame: (quality) => this.paintAir(quality),
-        changed: () => this.showGround(),
-        settled: (spread) => this.events.settled(this.placesAt(spread)),
-      },
-    );
-    this.placeCanvases();
-    this.turning.settle(spreadOf(this.spreads, place));
+    this.startTurning(spreadOf(this.spreads, place));
+    for (const side of ['start', 'end'] as const)
+      putCanvas(this.sides[side], this.sideBox(side), devicePixelRatio);
+    this.setZoom(NO_ZOOM);
     this.showGround();
+    this.events.settled(this.places);
   }
 
-  private placeCanvases(): void {
+  private startTurning(spread: number): void {
+    const leaf = { width: this.leafShape, height: 1 };
+    this.turning = new Turning(this.spreads.length, spread, leaf, RADIANS_OF_A_TURN / this.options.turnSeconds, {
+      frame: (quality) => this.paintAir(quality),
+      changed: () => this.showGround(),
+      settled: (settled) => this.events.settled(this.placesAt(settled)),
+    });
+  }
+
+  private sideBox(side: Side): Box {
     const { leaf, book, double } = this.layout;
-    for (const side of ['start', 'end'] as const) {
-      const atLeft = double && (side === 'start') !== this.options.rightToLeft;
-      put(this.sides[side], double && !atLeft ? book.x + leaf.width : book.x, book.y, leaf, devicePixelRatio);
-      this.sides[side].hidden = !double && side === 'start';
-    }
+    const isLeft = (side === 'start') !== this.options.rightToLeft;
+    return { x: double && !isLeft ? book.x + leaf.width : book.x, y: book.y, ...leaf };
   }
 
-  /** The sides on the ground, and the pictures that are wanted next. */
+  private faceOnGround(side: Side): Face | undefined {
+    return side === 'start'
+      ? this.spreads[this.turning.lowest]?.start
+      : this.spreads[this.turning.highest]?.end;
+  }
+
   private showGround(): void {
     this.paintAll();
     this.pictures.want(this.wantedPictures());
+    this.events.placed(this.placedPages());
   }
 
+  /** The spread that is to be seen first, then what is seen now, then what comes after it. */
   private wantedPictures(): PictureRequest[] {
     const { lowest, highest, destination } = this.turning;
     const order = [destination, lowest, highest];
@@ -142,26 +240,32 @@ export class BookView {
   }
 
   private pixelsAcross(place: number): number {
-    const wide = isWide(this.book.pages[place - 1], this.book.shape);
-    return Math.round(this.layout.leaf.width * devicePixelRatio * (wide && this.layout.double ? 2 : 1));
+    const wide = this.layout.double && isWide(this.book.pages[place - 1], this.book.shape);
+    return Math.round(this.layout.leaf.width * devicePixelRatio * (wide ? 2 : 1));
+  }
+
+  private placedPages(): PlacedPage[] {
+    return (['start', 'end'] as const).flatMap((side) => {
+      const face = this.faceOnGround(side);
+      if (!face || face.place === 0) return [];
+      const window = this.sideBox(side);
+      const box = pictureBox(this.layout.leaf, face, this.hingeOf(side), this.source.shape(face.place));
+      return [{ place: face.place, window, picture: { ...box, x: window.x + box.x, y: window.y + box.y } }];
+    });
   }
 
   private paintAll(): void {
-    const start = this.spreads[this.turning.lowest]?.start;
-    const end = this.spreads[this.turning.highest]?.end;
-    this.paintSide('start', start);
-    this.paintSide('end', end);
-    this.paintAir(undefined);
+    for (const side of ['start', 'end'] as const) this.paintSide(side, this.faceOnGround(side));
+    this.paintAir(FULL);
   }
 
   private paintSide(side: Side, face: Face | undefined): void {
-    const target = this.sides[side];
-    target.classList.toggle('empty', !face);
-    if (!face) return;
-    const context = target.getContext('2d')!;
-    const ratio = target.width / this.layout.leaf.width;
-    context.setTransform(ratio, 0, 0, target.height / this.layout.leaf.height, 0, 0);
-    paintFace(context, this.layout.leaf, face, this.hingeOf(side), this.source, this.options.paper);
+    const canvas = this.sides[side];
+    canvas.hidden = !face;
+    const context = canvas.getContext('2d')!;
+    const { leaf } = this.layout;
+    context.setTransform(canvas.width / leaf.width, 0, 0, canvas.height / leaf.height, 0, 0);
+    if (face) paintFace(context, leaf, face, this.hingeOf(side), this.source, this.options.paper);
   }
 
   private hingeOf(side: Side): HingeSide {
@@ -169,38 +273,27 @@ export class BookView {
     return (side === 'end') !== this.options.rightToLeft ? 'left' : 'right';
   }
 
-  private paintAir(quality: Quality | undefined): void {
-    const leaves = this.turning.leaves;
-    this.air.hidden = leaves.length === 0;
-    if (leaves.length === 0) return;
-    const ratio = quality?.fullPixels === false ? 1 : devicePixelRatio;
-    const room = this.roomForAir();
-    put(this.air, room.x, room.y, room, ratio);
-    const context = this.air.getContext('2d')!;
-    context.setTransform(1, 0, 0, 1, 0, 0);
-    context.clearRect(0, 0, this.air.width, this.air.height);
-    const { book, hingeX, leaf } = this.layout;
-    const mirror = this.options.rightToLeft ? -1 : 1;
-    for (const flying of leaves) {
-      context.setTransform(ratio * mirror, 0, 0, ratio, (hingeX - room.x) * ratio, (book.y - room.y) * ratio);
-      paintLeaf(context, leaf, scaled(flying, leaf.height), this.facesOf(flying), quality ?? { stripsPerQuarter: 8 });
-    }
+  private paintAir(quality: Quality): void {
+    const leaves = this.turning.leaves.map((leaf) => this.inTheAir(leaf));
+    if (leaves.length === 0) this.air.clear();
+    else this.air.paint(leaves, this.layout, this.options.rightToLeft, quality);
   }
 
-  private roomForAir(): Point & Size {
-    const { leaf, book, hingeX } = this.layout;
-    const head = Math.round(leaf.height * HEADROOM);
-    const width = 2 * leaf.width + 2 * head;
-    return { x: hingeX - width / 2, y: book.y - head, width, height: leaf.height + 2 * head };
+  private inTheAir(leaf: FlyingLeaf): LeafInTheAir {
+    const { lowest, highest } = this.turning;
+    const back = this.layout.double ? this.spreads[leaf.to]?.start : undefined;
+    return {
+      curl: leaf.mover.curl,
+      faces: { front: this.painterOf(this.spreads[leaf.from]?.end, 'end'), back: this.painterOf(back, 'start') },
+      // Without a page on the ground and no leaf below, the background takes no shadow.
+      ground: {
+        start: leaf.from !== lowest || this.spreads[lowest]?.start !== undefined,
+        end: leaf.to !== highest || this.spreads[highest]?.end !== undefined,
+      },
+    };
   }
 
-  private facesOf(flying: FlyingLeaf): LeafFaces {
-    const front = this.spreads[flying.from]?.end;
-    const back = this.layout.double ? this.spreads[flying.to]?.start : undefined;
-    return { front: this.painterOf(front, 'end'), back: this.painterOf(back, 'start') };
-  }
-
-  private painterOf(face: Face | undefined, side: Side): LeafFaces['front'] {
+  private painterOf(face: Face | undefined, side: Side): FacePainter {
     return (context, leaf) => {
       context.save();
       if (this.options.rightToLeft) context.transform(-1, 0, 0, 1, leaf.width, 0);
@@ -208,30 +301,4 @@ export class BookView {
       context.restore();
     };
   }
-}
-
-/** A leaf's curl, with its height in CSS pixels instead of 1. */
-function scaled(flying: FlyingLeaf, height: number) {
-  const { direction, line, radius } = flying.mover.curl;
-  return { direction, line: line * height, radius: radius * height };
-}
-
-function canvas(name: string): HTMLCanvasElement {
-  const element = document.createElement('canvas');
-  element.className = name;
-  element.setAttribute('aria-hidden', 'true');
-  return element;
-}
-
-function put(element: HTMLCanvasElement, x: number, y: number, size: Size, ratio: number): void {
-  Object.assign(element.style, {
-    left: `${x}px`,
-    top: `${y}px`,
-    width: `${size.width}px`,
-    height: `${size.height}px`,
-  });
-  const [width, height] = [Math.round(size.width * ratio), Math.round(size.height * ratio)];
-  // Setting a size clears the canvas, so only when it differs.
-  if (element.width !== width) element.width = width;
-  if (element.height !== height) element.height = height;
 }

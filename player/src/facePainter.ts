@@ -30,7 +30,7 @@ export function paintFace(
 ): void {
   context.fillStyle = paper.colour;
   context.fillRect(0, 0, leaf.width, leaf.height);
-  if (face) {
+  if (face && face.place > 0) {
     const picture = source.picture(face.place);
     if (picture) paintPicture(context, leaf, face, hinge, picture, source.shape(face.place));
     else paintNumber(context, leaf, source.label(face.place), paper.ink);

@@ -11,6 +11,12 @@ export interface LeafFaces {
   readonly back: FacePainter;
 }
 
+/** On which sides other paper lies below, where a shadow can fall. */
+export interface Ground {
+  readonly start: boolean;
+  readonly end: boolean;
+}
+
 export interface PaintQuality {
   readonly stripsPerQuarter: number; // 0: a flat fold without shading along it
 }
@@ -33,9 +39,10 @@ export function paintLeaf(
   leaf: Size,
   curl: Curl,
   faces: LeafFaces,
+  ground: Ground,
   quality: PaintQuality,
 ): void {
-  paintShadowOnGround(context, leaf, curl);
+  paintShadowOnGround(context, leaf, curl, ground);
   paintFlatPart(context, leaf, curl, faces.front);
   const perQuarter = curl.radius > 0 ? quality.stripsPerQuarter : 0;
   for (const strip of strips(perQuarter > 0 ? curl : sharp(curl), leaf, perQuarter))
@@ -140,13 +147,14 @@ function path(context: CanvasRenderingContext2D, points: readonly Point[]): void
 }
 
 /** The leaf in the air darkens what lies beside its roll and around the part that has come over. */
-function paintShadowOnGround(context: CanvasRenderingContext2D, leaf: Size, curl: Curl): void {
+function paintShadowOnGround(context: CanvasRenderingContext2D, leaf: Size, curl: Curl, ground: Ground): void {
   if (!Number.isFinite(curl.line)) return;
   const reach = Math.min(farthestReach(curl, leaf) * 0.25, leaf.width * 0.1) + curl.radius * 0.6;
   const edge = outermostSeen(curl, leaf);
   context.save();
   context.beginPath();
-  context.rect(-leaf.width, 0, 2 * leaf.width, leaf.height);
+  if (ground.start) context.rect(-leaf.width, 0, leaf.width, leaf.height);
+  if (ground.end) context.rect(0, 0, leaf.width, leaf.height);
   context.clip();
   paintShadowAlong(context, leaf, curl, edge, edge + reach);
   paintShadowAround(context, backPart(curl, leaf), Math.min(reach, curl.radius + leaf.width * 0.02));

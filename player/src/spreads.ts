@@ -7,7 +7,7 @@
 export type Part = 'whole' | 'start' | 'end';
 
 export interface Face {
-  readonly place: number;
+  readonly place: number; // 0: blank paper
   readonly part: Part; // a wide page takes both sides, half of it on each
 }
 
@@ -25,6 +25,7 @@ export interface Arrangement {
 }
 
 const whole = (place: number): Face => ({ place, part: 'whole' });
+const blank: Face = whole(0);
 const both = (place: number): Spread => ({ start: { place, part: 'start' }, end: { place, part: 'end' } });
 
 export function arrange(arrangement: Arrangement): Spread[] {
@@ -42,8 +43,8 @@ function pair(start: number, arrangement: Arrangement): Spread[] {
   const end = start + 1;
   if (!isWide(start) && !isWide(end))
     return [{ start: exists(start) ? whole(start) : undefined, end: exists(end) ? whole(end) : undefined }];
-  const first = isWide(start) ? both(start) : { start: whole(start), end: undefined };
-  const second = isWide(end) ? both(end) : { start: undefined, end: whole(end) };
+  const first = isWide(start) ? both(start) : { start: whole(start), end: blank };
+  const second = isWide(end) ? both(end) : { start: blank, end: whole(end) };
   return [exists(start) ? first : undefined, exists(end) ? second : undefined].filter(
     (spread): spread is Spread => spread !== undefined,
   );
@@ -53,8 +54,8 @@ const places = (count: number): number[] => Array.from({ length: count }, (_, in
 
 /** In reading order, each once. */
 export function placesOf(spread: Spread): number[] {
-  const all = [spread.start?.place, spread.end?.place].filter((place) => place !== undefined);
-  return [...new Set(all)];
+  const all = [spread.start, spread.end].map((face) => face?.place ?? blank.place);
+  return [...new Set(all)].filter((place) => place !== blank.place);
 }
 
 /** The index of the spread that shows a place; the nearest one for a place that there is not. */
