@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+import type { Book } from './book.ts';
+import { BookView } from './bookView.ts';
+import { Emitter } from './emitter.ts';
+import { Hands } from './hands.ts';
+import type { Mode } from './layout.ts';
+import type { Settings } from './settings.ts';
+import type { PlacedPage } from './sharpView.ts';
+import type { Zoom } from './zoom.ts';
+import { zoomAbout } from './zoom.ts';
+
+export interface ReaderEvents {
+  /** The pages that will lie open; said at once, while leaves still move. */
+  turned: readonly number[];
+  /** The pages that lie open now that all leaves have landed. */
+  settled: readonly number[];
+  /** Where pages lie on the sheet, for what is laid over them. */
+  placed: readonly PlacedPage[];
+  zoomed: Zoom;
+  /** A jump is about to happen, from a page to another; for the history. */
+  jumped: { readonly from: number; readonly to: number };
+}
+
+const PAPER_INK = 'rgba(0, 0, 0, 0.32)';
+
+/**
+ * The book in a reader's hands: everything that buttons, keys, addresses and panels ask for or
+ * want to know. Pages are named by their place, from 1.
+ */
+export class Reader extends Emitter<ReaderEvents> {
+  private readonly view: BookView;
+
+  constructor(
+    stage: HTMLElement,
+    readonly book: Book,
+    readonly settings: Settings,
+    place: number,
+  ) {
+    super();
+    const { mode, coverAlone, rightToLeft, turnSeconds, paperColour } = settings;
+    const options = { mode, coverAlone, rightToLeft, turnSeconds, paper: { colour: paperColour, ink: PAPER_INK } };
+    const events = {
+      turned: (places: readonly number[]) => this.emit('turned', places),
+      settled: (places: readonly number[]) => this.emit('settled', places),
+      placed: (pages: readonly PlacedPage[]) => this.emit('placed', pages),
+      zoomed: (zoom: Zoom) => this.emit('zoomed', zoom),
+    };
+    this.view = new BookView(stage, book, options, events, this.within(place));
+    new Hands(this.view);
+  }
+
+  /** What pages lie on; layers over them go into it, so that they are zoomed along. */
+  get sheet(): HTMLElement {
+    return this.view.sheet;
+  }
+
+  get places(): readonly number[] {
+    return this.view.places;
+  }
+
+  get place(): number {
+    return this.view.place;
+  }
+
+  get pageCount(): number {
+    return this.book.pages.length;
+  }
+
+  get isDouble(): boolean {
+    return this.view.isDouble;
+  }
+
+  get scale(): number {
+    return this.view.zoom.scale;
+  }
+
+  next(): boolean {
+    return this.view.turn(1);
+  }
+
+  previous(): boolean {
+    return this.view.turn(-1);
+  }
+
+  /** A jump that the back button undoes. */
+  goTo(place: number): void {
+    const to = this.within(place);
+    if (this.places.includes(to)) return;
+    this.emit('jumped', { from: this.place, to });
+    this.view.goTo(to);
+  }
+
+  /** Without a trace in the history. */
+  show(place: number): void {
+    this.view.goTo(this.within(place));
+  }
+
+  setMode(mode: Mode): void {
+    this.view.setMode(mode);
+  }
+
+  /** About the middle of the stage. */
+  zoomTo(scale: number): void {
+    const { clientWidth, clientHeight } = this.view.host;
+    this.view.setZoom(zoomAbout(this.view.zoom, { x: clientWidth / 2, y: clientHeight / 2 }, scale));
+  }
+
+  /** Whether a page's picture could not be loaded. */
+  hasFailed(place: number): boolean {
+    return this.view.hasFailed(place);
+  }
+
+  retry(place: number): void {
+    this.view.retry(place);
+  }
+
+  private within(place: number): number {
+    return Math.min(Math.max(Math.round(place) || 1, 1), Math.max(this.pageCount, 1));
+  }
+}
