@@ -86,6 +86,7 @@ export function projected(reach: number, radius: number): number {
 /** Where a point of the flat leaf is seen. */
 export function seenAt(point: Point, curl: Curl): Point {
   const reach = dot(curl.direction, point) - curl.line;
+  if (reach <= 0) return point;
   return add(point, scale(curl.direction, projected(reach, curl.radius) - reach));
 }
 

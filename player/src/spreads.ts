@@ -31,6 +31,7 @@ const both = (place: number): Spread => ({ start: { place, part: 'start' }, end:
 export function arrange(arrangement: Arrangement): Spread[] {
   if (!arrangement.double) return places(arrangement.pageCount).map((place) => ({ start: undefined, end: whole(place) }));
   const spreads: Spread[] = [];
+  if (arrangement.pageCount === 0) return spreads;
   for (let start = arrangement.coverAlone ? 0 : 1; start <= arrangement.pageCount; start += 2)
     spreads.push(...pair(start, arrangement));
   return spreads;
