@@ -5,9 +5,12 @@ import type { Box } from './geometry.ts';
 import type { Quality } from './governor.ts';
 import type { Layout } from './layout.ts';
 import { type Ground, type LeafFaces, paintLeaf } from './leafPainter.ts';
+import { paintStiffLeaf } from './stiffLeaf.ts';
 
 export interface LeafInTheAir {
   readonly curl: Curl; // with the leaf's height as the unit
+  readonly opening: number; // see stiffLeaf.ts
+  readonly stiff: boolean;
   readonly faces: LeafFaces;
   readonly ground: Ground;
 }
@@ -25,7 +28,7 @@ export class AirView {
 
   /** The lowest leaf first. */
   paint(leaves: readonly LeafInTheAir[], layout: Layout, rightToLeft: boolean, quality: Quality): void {
-    const ratio = quality.fullPixels ? devicePixelRatio : Math.min(devicePixelRatio, 1);
+    const ratio = pixelRatio(quality);
     const room = roomAround(layout);
     putCanvas(this.element, room, ratio);
     this.element.hidden = false;
@@ -35,10 +38,14 @@ export class AirView {
     const mirror = rightToLeft ? -1 : 1;
     const [x, y] = [layout.hingeX - room.x, layout.book.y - room.y];
     context.setTransform(ratio * mirror, 0, 0, ratio, x * ratio, y * ratio);
-    for (const { curl, faces, ground } of leaves)
-      paintLeaf(context, layout.leaf, inPixels(curl, layout.leaf.height), faces, ground, quality);
+    for (const { curl, opening, stiff, faces, ground } of leaves)
+      if (stiff) paintStiffLeaf(context, layout.leaf, opening, faces, ground);
+      else paintLeaf(context, layout.leaf, inPixels(curl, layout.leaf.height), faces, ground, quality);
   }
 }
+
+export const pixelRatio = (quality: Quality): number =>
+  quality.fullPixels ? devicePixelRatio : Math.min(devicePixelRatio, 1);
 
 function roomAround({ leaf, book, hingeX }: Layout): Box {
   const head = Math.round(leaf.height * HEADROOM);

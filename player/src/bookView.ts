@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
-import { AirView, type LeafInTheAir } from './airView.ts';
+import { AirView, type LeafInTheAir, pixelRatio } from './airView.ts';
 import { type Book, isWide } from './book.ts';
 import { makeCanvas, putCanvas } from './canvas.ts';
 import { type FaceSource, type HingeSide, type Paper, paintFace, pictureBox } from './facePainter.ts';
-import type { Box, Point, Size } from './geometry.ts';
+import { FaceCache } from './faceCache.ts';
+import { type Box, clamp, type Point, type Size } from './geometry.ts';
 import type { Quality } from './governor.ts';
 import { type Layout, layoutBook, type Mode } from './layout.ts';
 import type { FacePainter } from './leafPainter.ts';
+import { PageEdges } from './pageEdges.ts';
 import { type PictureRequest, Pictures } from './pictures.ts';
 import { type PlacedPage, SharpView } from './sharpView.ts';
 import { arrange, type Face, placesOf, type Spread, spreadOf } from './spreads.ts';
@@ -19,6 +21,8 @@ export interface ViewOptions {
   readonly rightToLeft: boolean;
   readonly turnSeconds: number;
   readonly paper: Paper;
+  readonly hardCovers: boolean;
+  readonly pageEdges: boolean;
 }
 
 export interface ViewEvents {
@@ -29,6 +33,8 @@ export interface ViewEvents {
   /** Places or sizes of pages on the screen changed. */
   placed(pages: readonly PlacedPage[]): void;
   zoomed(zoom: Zoom): void;
+  /** The reader asked for a page by the book itself. */
+  jumpAsked(place: number): void;
 }
 
 export type Side = 'start' | 'end';
@@ -47,6 +53,9 @@ export class BookView {
   readonly sheet = document.createElement('div');
   private readonly sides: Record<Side, HTMLCanvasElement> = { start: makeCanvas('side'), end: makeCanvas('side') };
   private readonly air = new AirView();
+  private readonly faces = new FaceCache();
+  private readonly edges: PageEdges;
+  private reducedMotion = false;
   private readonly pictures: Pictures;
   private readonly sharp: SharpView;
   private readonly source: FaceSource;
@@ -68,7 +77,10 @@ export class BookView {
     this.pictures = new Pictures(
       (at) => (page(at)?.width === 0 ? '' : (page(at)?.image ?? '')),
       (at) => ({ width: page(at)?.width ?? 0, height: page(at)?.height ?? 0 }),
-      () => this.paintAll(),
+      () => {
+        this.faces.forget();
+        this.paintAll();
+      },
     );
     this.source = {
       picture: (at) => this.pictures.get(at),
@@ -77,6 +89,8 @@ export class BookView {
     };
     this.sharp = new SharpView(this.pictures);
     this.sheet.className = 'sheet';
+    this.edges = new PageEdges((fraction) => events.jumpAsked(Math.ceil(fraction * book.pages.length)));
+    if (options.pageEdges) this.sheet.append(this.edges.start, this.edges.end);
     this.sheet.append(this.sides.start, this.sides.end, this.sharp.element, this.air.element);
     host.append(this.sheet);
     this.arrangeAt(place);
@@ -104,14 +118,26 @@ export class BookView {
     return this.turning.leaves;
   }
 
+  get fades(): boolean {
+    return this.reducedMotion;
+  }
+
+  setReducedMotion(reduced: boolean): void {
+    this.reducedMotion = reduced;
+  }
+
   turn(count: number): boolean {
-    const turned = this.turning.turn(count);
+    const turned = this.reducedMotion
+      ? this.fadeTo(clamp(this.turning.destination + count, 0, this.spreads.length - 1))
+      : this.turning.turn(count);
     if (turned) this.events.turned(this.places);
     return turned;
   }
 
   goTo(place: number): void {
-    this.turning.jump(spreadOf(this.spreads, place));
+    const spread = spreadOf(this.spreads, place);
+    if (this.reducedMotion) this.fadeTo(spread);
+    else this.turning.jump(spread);
     this.events.turned(this.places);
   }
 
@@ -175,6 +201,24 @@ export class BookView {
     return this.book.pages[place - 1]?.width === 0 || this.pictures.hasFailed(place);
   }
 
+  /** A cross-fade instead of a turn. */
+  private fadeTo(spread: number): boolean {
+    if (spread === this.turning.destination) return false;
+    const { book } = this.layout;
+    const before = makeCanvas('fading');
+    putCanvas(before, book, devicePixelRatio);
+    const context = before.getContext('2d')!;
+    for (const side of ['start', 'end'] as const) {
+      const box = this.sideBox(side);
+      const [x, width] = [(box.x - book.x) * devicePixelRatio, box.width * devicePixelRatio];
+      if (!this.sides[side].hidden) context.drawImage(this.sides[side], x, 0, width, before.height);
+    }
+    before.addEventListener('animationend', () => before.remove());
+    this.sheet.append(before);
+    this.turning.settle(spread);
+    return true;
+  }
+
   private space(): Size {
     return { width: this.host.clientWidth, height: this.host.clientHeight };
   }
@@ -197,6 +241,7 @@ export class BookView {
     this.startTurning(spreadOf(this.spreads, place));
     for (const side of ['start', 'end'] as const)
       putCanvas(this.sides[side], this.sideBox(side), devicePixelRatio);
+    this.faces.forget();
     this.setZoom(NO_ZOOM);
     this.showGround();
     this.events.settled(this.places);
@@ -225,6 +270,8 @@ export class BookView {
 
   private showGround(): void {
     this.paintAll();
+    const last = Math.max(this.spreads.length - 1, 1);
+    this.edges.place(this.layout.book, this.book.pages.length / 2, this.turning.lowest / last, this.options.rightToLeft);
     this.pictures.want(this.wantedPictures());
     this.events.placed(this.placedPages());
   }
@@ -274,17 +321,23 @@ export class BookView {
   }
 
   private paintAir(quality: Quality): void {
-    const leaves = this.turning.leaves.map((leaf) => this.inTheAir(leaf));
+    this.faces.beginFrame();
+    const leaves = this.turning.leaves.map((leaf) => this.inTheAir(leaf, pixelRatio(quality)));
     if (leaves.length === 0) this.air.clear();
     else this.air.paint(leaves, this.layout, this.options.rightToLeft, quality);
   }
 
-  private inTheAir(leaf: FlyingLeaf): LeafInTheAir {
+  private inTheAir(leaf: FlyingLeaf, ratio: number): LeafInTheAir {
     const { lowest, highest } = this.turning;
     const back = this.layout.double ? this.spreads[leaf.to]?.start : undefined;
     return {
       curl: leaf.mover.curl,
-      faces: { front: this.painterOf(this.spreads[leaf.from]?.end, 'end'), back: this.painterOf(back, 'start') },
+      opening: leaf.mover.opening,
+      stiff: this.isBoard(leaf),
+      faces: {
+        front: this.painterOf(this.spreads[leaf.from]?.end, 'end', ratio),
+        back: this.painterOf(back, 'start', ratio),
+      },
       // Without a page on the ground and no leaf below, the background takes no shadow.
       ground: {
         start: leaf.from !== lowest || this.spreads[lowest]?.start !== undefined,
@@ -293,12 +346,18 @@ export class BookView {
     };
   }
 
-  private painterOf(face: Face | undefined, side: Side): FacePainter {
-    return (context, leaf) => {
-      context.save();
+  /** The cover and the last leaf of a hardback. */
+  private isBoard(leaf: FlyingLeaf): boolean {
+    if (!this.options.hardCovers || !this.layout.double) return false;
+    const closesAtEnd = this.spreads[this.spreads.length - 1]?.end === undefined;
+    return leaf.from === 0 || (closesAtEnd && leaf.to === this.spreads.length - 1);
+  }
+
+  private painterOf(face: Face | undefined, side: Side, ratio: number): FacePainter {
+    const key = `${side} ${face?.place} ${face?.part}`;
+    return this.faces.cached(key, this.layout.leaf, ratio, (context, leaf) => {
       if (this.options.rightToLeft) context.transform(-1, 0, 0, 1, leaf.width, 0);
       paintFace(context, leaf, face, this.hingeOf(side), this.source, this.options.paper);
-      context.restore();
-    };
+    });
   }
 }

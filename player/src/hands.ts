@@ -6,6 +6,7 @@ import { panBy, type Zoom, zoomAbout } from './zoom.ts';
 
 /** Of a leaf's width, from its outer edge: here a page is taken by the finger itself. */
 const GRAB_ZONE = 0.2;
+const SWIPE_PIXELS = 48;
 const DOUBLE_TAP_SCALE = 2.5;
 const WHEEL_ZOOM = 0.0022; // of the scale's logarithm, for a pixel of the wheel
 const WHEEL_TURN = 60; // pixels of the wheel that turn a page
@@ -13,9 +14,9 @@ const WHEEL_PAUSE_MILLISECONDS = 260;
 const LINE_PIXELS = 16;
 
 interface Drag {
-  move(to: Point): void;
-  end(velocity: Point): void;
-  cancel(): void;
+  readonly move: (to: Point) => unknown;
+  readonly end: (velocity: Point) => unknown;
+  readonly cancel: () => unknown;
 }
 
 /** What hands do to the book: turn, pan, zoom. */
@@ -89,6 +90,7 @@ export class Hands implements GestureHandler {
 
   /** A leaf in flight, the leaf under the finger, or the leaf that a swipe would turn. */
   private grab(from: Point, direction: Point): Drag | undefined {
+    if (this.view.fades) return this.swipe(from, direction);
     const start = this.view.leafPoint(from);
     const flying = this.view.flying[this.view.flying.length - 1];
     if (flying) return this.carry(flying.target === 1 ? -1 : 1, start, from);
@@ -99,6 +101,18 @@ export class Hands implements GestureHandler {
     if (!isSideways) return undefined;
     const goesOn = direction.x < 0 !== this.view.options.rightToLeft;
     return this.carry(goesOn ? 1 : -1, { x: goesOn ? width : -width, y: start.y }, from);
+  }
+
+  /** Where nothing is to fly, the swipe alone turns. */
+  private swipe(from: Point, direction: Point): Drag | undefined {
+    if (Math.abs(direction.x) <= Math.abs(direction.y)) return undefined;
+    let moved = 0;
+    const forward = this.view.options.rightToLeft ? 1 : -1;
+    return {
+      move: (to) => (moved = to.x - from.x),
+      end: () => Math.abs(moved) > SWIPE_PIXELS && this.view.turn(Math.sign(moved) * forward),
+      cancel: () => {},
+    };
   }
 
   /** The leaf is held at a point and follows the pointer from there, one to one. */

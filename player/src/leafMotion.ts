@@ -42,6 +42,11 @@ export class LeafMotion {
     return Math.min(Math.max((this.grabbed.x - this.motion.position.x) / (2 * this.grabbed.x), 0), 1);
   }
 
+  /** For a stiff leaf: the cosine of the angle that it has turned through. */
+  get opening(): number {
+    return 1 - 2 * this.progress;
+  }
+
   /** Takes hold of a resting leaf at the pointer itself, of one in flight where it hangs. */
   hold(pointer: Point, resting: 0 | 1 | undefined): void {
     if (resting !== undefined) {

@@ -37,13 +37,13 @@ export class Reader extends Emitter<ReaderEvents> {
     place: number,
   ) {
     super();
-    const { mode, coverAlone, rightToLeft, turnSeconds, paperColour } = settings;
-    const options = { mode, coverAlone, rightToLeft, turnSeconds, paper: { colour: paperColour, ink: PAPER_INK } };
+    const options = { ...settings, paper: { colour: settings.paperColour, ink: PAPER_INK } };
     const events = {
       turned: (places: readonly number[]) => this.emit('turned', places),
       settled: (places: readonly number[]) => this.emit('settled', places),
       placed: (pages: readonly PlacedPage[]) => this.emit('placed', pages),
       zoomed: (zoom: Zoom) => this.emit('zoomed', zoom),
+      jumpAsked: (to: number) => this.goTo(to),
     };
     this.view = new BookView(stage, book, options, events, this.within(place));
     new Hands(this.view);
@@ -97,6 +97,11 @@ export class Reader extends Emitter<ReaderEvents> {
 
   setMode(mode: Mode): void {
     this.view.setMode(mode);
+  }
+
+  /** A cross-fade takes the place of the turn. */
+  setReducedMotion(reduced: boolean): void {
+    this.view.setReducedMotion(reduced);
   }
 
   /** About the middle of the stage. */
