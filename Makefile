@@ -36,10 +36,11 @@ bench: ## Measure speed, memory and size beside other programs
 	@tools/build release
 	@bench/run
 
-samples: ## Draw the sample magazine, the first book's pages, the template's pictures and the icon anew
+samples: ## Make the sample magazine, the first book's pages, the templates, their pictures and the icon anew
 	@tools/setup samples
 	@node samples/make-magazine.mjs
 	@node tools/make-demo-images.mjs
+	@node tools/make-templates.mjs
 	@node tools/make-template-art.mjs
 	@node tools/make-icons.mjs
 

@@ -49,6 +49,9 @@ export const CONTROLS = [
 
 export type Control = (typeof CONTROLS)[number];
 
+const keyOf = (control: Control): string =>
+  control === 'fullScreen' ? 'fullScreenButtonVisible' : `${control}Visible`;
+
 const MODES: Readonly<Record<string, Mode>> = { Single: 'single', Double: 'double' };
 const SHORTEST_TURN_SECONDS = 0.15;
 
@@ -79,6 +82,6 @@ export function readSettings(config: BookConfig): Settings {
     logoLink: text('appLogoLinkURL'),
     shareAddress: text('shareURL'),
     toolbar: flag('toolBarVisible', true),
-    shows: Object.fromEntries(CONTROLS.map((name) => [name, flag(`${name}Visible`, true)])) as Record<Control, boolean>,
+    shows: Object.fromEntries(CONTROLS.map((name) => [name, flag(keyOf(name), true)])) as Record<Control, boolean>,
   };
 }

@@ -3,10 +3,14 @@ import assert from 'node:assert/strict';
 import { existsSync, readdirSync, readFileSync } from 'node:fs';
 import { after, before, describe, it } from 'node:test';
 import { launchBrowser } from '../../tools/browser.mjs';
+import { description } from '../../tools/templates/description.mjs';
+import { TEMPLATES } from '../../tools/templates/templates.mjs';
 import { pathOf } from './support.mjs';
 
-const TEMPLATE = pathOf('resources/AppFiles/Templates/float/');
+const LIBRARY = pathOf('resources/AppFiles/Templates/');
+const TEMPLATE = `${LIBRARY}float/`;
 const STYLES = pathOf('resources/AppFiles/Styles/float/');
+const PLAYER = pathOf('player/src/');
 const PARTS = ['key', 'title', 'desc', 'value', 'valueSource', 'defalutValue'];
 
 // Runs in the browser, which brings the XML parser.
@@ -55,9 +59,24 @@ describe('the template float', () => {
   });
 
   it('has no setting that the reader ignores', () => {
-    const reader = readFileSync(TEMPLATE + 'javascript/main_preview.js', 'utf8');
-    const ignored = properties.filter(({ type, key }) => type !== 'pt_composite' && !new RegExp(`\\b${key}\\b`).test(reader));
+    const player = readdirSync(PLAYER).map((name) => readFileSync(PLAYER + name, 'utf8'));
+    const reader = [...player, readFileSync(TEMPLATE + 'javascript/main_preview.js', 'utf8')].join('\n');
+    // Controls are named in the player's table without the word that ends their keys.
+    const isRead = (key) => new RegExp(`\\b${key}\\b|'${key.replace(/Visible$/, '')}',`).test(reader);
+    const ignored = properties.filter(({ type, key }) => type !== 'pt_composite' && !isRead(key));
     assert.deepEqual(ignored.map(({ key }) => key), []);
+  });
+
+  it('has every setting that the player knows', () => {
+    const settings = readFileSync(PLAYER + 'settings.ts', 'utf8');
+    const known = [...settings.matchAll(/\b(?:text|flag|number)\('(\w+)'/g)].map(([, key]) => key);
+    assert.ok(known.length > 10);
+    assert.deepEqual(known.filter((key) => !properties.some((property) => property.key === key)), []);
+  });
+
+  it('is described by what it is made from', () => {
+    for (const template of TEMPLATES)
+      assert.equal(readFileSync(`${LIBRARY}${template.name}/flashTemplate.xml`, 'utf8'), description(template));
   });
 
   it('has a page whose placeholders can all be filled', () => {
