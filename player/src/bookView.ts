@@ -309,6 +309,7 @@ export class BookView {
   private paintSide(side: Side, face: Face | undefined): void {
     const canvas = this.sides[side];
     canvas.hidden = !face;
+    canvas.dataset.drawn = face && this.pictures.get(face.place) ? String(face.place) : '';
     const context = canvas.getContext('2d')!;
     const { leaf } = this.layout;
     context.setTransform(canvas.width / leaf.width, 0, 0, canvas.height / leaf.height, 0, 0);
