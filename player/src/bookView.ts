@@ -276,10 +276,10 @@ export class BookView {
     this.events.placed(this.placedPages());
   }
 
-  /** The spread that is to be seen first, then what is seen now, then what comes after it. */
+  /** What is seen now and at the end, then the leaves in between, then what comes after it. */
   private wantedPictures(): PictureRequest[] {
     const { lowest, highest, destination } = this.turning;
-    const order = [destination, lowest, highest];
+    const order = [lowest, highest, destination, ...this.turning.leaves.map((leaf) => leaf.to)];
     for (let step = 1; step <= SPREADS_AHEAD; step++) order.push(destination + step);
     for (let step = 1; step <= SPREADS_BEHIND; step++) order.push(destination - step);
     const places = new Set(order.flatMap((spread) => this.placesAt(spread)));

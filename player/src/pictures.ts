@@ -68,7 +68,8 @@ export class Pictures {
     const { width: across, height: down } = this.sizeOf(place);
     const cut = [part.x * across, part.y * down, part.width * across, part.height * down].map(Math.round);
     const [x = 0, y = 0, w = 1, h = 1] = cut;
-    return createImageBitmap(source, x, y, Math.max(w, 1), Math.max(h, 1), resized(Math.min(width, w)));
+    const options = resized(Math.min(width, w));
+    return createImageBitmap(source, x, y, Math.max(w, 1), Math.max(h, 1), options);
   }
 
   private startNext(): void {
@@ -104,7 +105,9 @@ export class Pictures {
   private async decode(place: number, width: number, signal: AbortSignal): Promise<ImageBitmap> {
     const source = await this.source(place, signal);
     const known = this.sizeOf(place).width;
-    return createImageBitmap(source, resized(known ? Math.min(width, known) : width));
+    const options = resized(known ? Math.min(width, known) : width);
+    // A browser that can't resize here draws the whole picture smaller, a little more slowly.
+    return createImageBitmap(source, options).catch(() => createImageBitmap(source));
   }
 
   private async source(place: number, signal: AbortSignal): Promise<ImageBitmapSource> {
