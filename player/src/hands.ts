@@ -6,6 +6,8 @@ import { panBy, type Zoom, zoomAbout } from './zoom.ts';
 
 /** Of a leaf's width, from its outer edge: here a page is taken by the finger itself. */
 const GRAB_ZONE = 0.2;
+/** A leaf goes twice its width while a finger crosses the page once. */
+const SWIPE_GAIN = 2;
 const SWIPE_PIXELS = 48;
 const DOUBLE_TAP_SCALE = 2.5;
 const WHEEL_ZOOM = 0.0022; // of the scale's logarithm, for a pixel of the wheel
@@ -100,7 +102,7 @@ export class Hands implements GestureHandler {
     if (onEdge && this.view.isDouble) return this.carry(start.x > 0 ? 1 : -1, start, from);
     if (!isSideways) return undefined;
     const goesOn = direction.x < 0 !== this.view.options.rightToLeft;
-    return this.carry(goesOn ? 1 : -1, { x: goesOn ? width : -width, y: start.y }, from);
+    return this.carry(goesOn ? 1 : -1, { x: goesOn ? width : -width, y: start.y }, from, SWIPE_GAIN);
   }
 
   /** Where nothing is to fly, the swipe alone turns. */
@@ -115,15 +117,16 @@ export class Hands implements GestureHandler {
     };
   }
 
-  /** The leaf is held at a point and follows the pointer from there, one to one. */
-  private carry(step: 1 | -1, at: Point, from: Point): Drag | undefined {
+  /** The leaf is held at a point and follows the pointer from there, so many times as far sideways. */
+  private carry(step: 1 | -1, at: Point, from: Point, gain = 1): Drag | undefined {
     const leaf = this.view.hold(step, at);
     if (!leaf) return undefined;
-    const grip = subtract(at, this.view.leafPoint(from));
+    const start = this.view.leafPoint(from);
+    const follow = (by: Point): Point => ({ x: by.x * gain, y: by.y });
     const home = step > 0 ? 0 : 1;
     return {
-      move: (to) => this.view.drag(leaf, add(this.view.leafPoint(to), grip)),
-      end: (velocity) => this.view.release(leaf, this.inLeaf(velocity)),
+      move: (to) => this.view.drag(leaf, add(at, follow(subtract(this.view.leafPoint(to), start)))),
+      end: (velocity) => this.view.release(leaf, follow(this.inLeaf(velocity))),
       cancel: () => this.view.drop(leaf, home),
     };
   }
