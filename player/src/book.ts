@@ -40,6 +40,7 @@ export interface OutlineItem {
 
 export interface BookData {
   readonly version: number;
+  readonly textPages?: number;
   readonly pages: readonly Page[];
   readonly outline: readonly OutlineItem[];
 }
@@ -47,6 +48,7 @@ export interface BookData {
 export interface Book {
   readonly pages: readonly Page[]; // a page's place is its position here, from 1
   readonly outline: readonly OutlineItem[];
+  readonly textPages: number; // how many pages' texts lie in one file (bookTexts.ts); 0 without text
   readonly shape: number; // width over height of a leaf
 }
 
@@ -54,9 +56,9 @@ export interface Book {
 const WIDE_PAGE = 1.3;
 
 export function readBook(config: BookConfig, data: BookData | undefined): Book {
-  const known = isOn(config.readerData) && data?.version === 1;
-  const pages = known ? data.pages : plainPages(config);
-  return { pages, outline: known ? data.outline : [], shape: leafShape(pages, config) };
+  const known = isOn(config.readerData) && (data?.version === 1 || data?.version === 2);
+  const { pages, outline, textPages = 0 } = known ? data : { pages: plainPages(config), outline: [] };
+  return { pages, outline, textPages, shape: leafShape(pages, config) };
 }
 
 export const isOn = (value: unknown): boolean => /^(yes|true|show|enable|1)$/i.test(String(value));
