@@ -7,7 +7,6 @@ import { FaceCache } from './faceCache.ts';
 import { type Box, clamp, type Point, type Size } from './geometry.ts';
 import type { Quality } from './governor.ts';
 import { type Layout, layoutBook, type Mode } from './layout.ts';
-import type { FacePainter } from './leafPainter.ts';
 import { PageEdges } from './pageEdges.ts';
 import { type PictureRequest, Pictures } from './pictures.ts';
 import { type PlacedPage, SharpView } from './sharpView.ts';
@@ -325,7 +324,7 @@ export class BookView {
     this.faces.beginFrame();
     const leaves = this.turning.leaves.map((leaf) => this.inTheAir(leaf, pixelRatio(quality)));
     if (leaves.length === 0) this.air.clear();
-    else this.air.paint(leaves, this.layout, this.options.rightToLeft, quality);
+    else this.air.paint(leaves, this.layout, this.space(), this.options.rightToLeft, quality);
   }
 
   private inTheAir(leaf: FlyingLeaf, ratio: number): LeafInTheAir {
@@ -336,8 +335,8 @@ export class BookView {
       opening: leaf.mover.opening,
       stiff: this.isBoard(leaf),
       faces: {
-        front: this.painterOf(this.spreads[leaf.from]?.end, 'end', ratio),
-        back: this.painterOf(back, 'start', ratio),
+        front: this.painted(this.spreads[leaf.from]?.end, 'end', ratio),
+        back: this.painted(back, 'start', ratio),
       },
       // Without a page on the ground and no leaf below, the background takes no shadow.
       ground: {
@@ -354,9 +353,9 @@ export class BookView {
     return leaf.from === 0 || (closesAtEnd && leaf.to === this.spreads.length - 1);
   }
 
-  private painterOf(face: Face | undefined, side: Side, ratio: number): FacePainter {
+  private painted(face: Face | undefined, side: Side, ratio: number): HTMLCanvasElement {
     const key = `${side} ${face?.place} ${face?.part}`;
-    return this.faces.cached(key, this.layout.leaf, ratio, (context, leaf) => {
+    return this.faces.painted(key, this.layout.leaf, ratio, (context, leaf) => {
       if (this.options.rightToLeft) context.transform(-1, 0, 0, 1, leaf.width, 0);
       paintFace(context, leaf, face, this.hingeOf(side), this.source, this.options.paper);
     });

@@ -98,18 +98,22 @@ export function farthestReach(curl: Curl, leaf: Size): number {
 
 /**
  * The strips that stand for the curved part and the flat part behind it, those that are hidden by
- * others first.
+ * others first. The first quarter, of which little is seen below the second, has half as many.
  */
 export function strips(curl: Curl, leaf: Size, perQuarter: number): Strip[] {
   const end = farthestReach(curl, leaf);
-  const rounded = HALF_TURN * curl.radius;
+  const quarter = (HALF_TURN / 2) * curl.radius;
   const result: Strip[] = [];
+  const add = (from: number, to: number, count: number, showsBack: boolean) => {
+    const step = (to - from) / count;
+    for (let index = 0; index < count && from + index * step < end; index++)
+      result.push(strip(from + index * step, Math.min(from + (index + 1) * step, end), curl.radius, showsBack));
+  };
   if (curl.radius > 0) {
-    const step = rounded / 2 / perQuarter;
-    for (let index = 0; index < 2 * perQuarter && index * step < end; index++)
-      result.push(strip(index * step, Math.min((index + 1) * step, end), curl.radius, index >= perQuarter));
+    add(0, quarter, Math.ceil(perQuarter / 2), false);
+    add(quarter, 2 * quarter, perQuarter, true);
   }
-  if (end > rounded) result.push(strip(rounded, end, curl.radius, true));
+  if (end > 2 * quarter) result.push(strip(2 * quarter, end, curl.radius, true));
   return result;
 }
 

@@ -23,13 +23,13 @@ export class FaceCache {
     this.beginFrame();
   }
 
-  /** A painter that draws what another one has painted, with so many pixels a unit. */
-  cached(key: string, leaf: Size, ratio: number, paint: FacePainter): FacePainter {
+  /** What a painter paints, with so many pixels a unit. */
+  painted(key: string, leaf: Size, ratio: number, paint: FacePainter): HTMLCanvasElement {
     const whole = `${key} ${ratio}`;
     this.used.add(whole);
     const canvas = this.kept.get(whole) ?? painted(leaf, ratio, paint);
     this.kept.set(whole, canvas);
-    return (context) => context.drawImage(canvas, 0, 0, leaf.width, leaf.height);
+    return canvas;
   }
 }
 
