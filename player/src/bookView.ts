@@ -55,6 +55,7 @@ export class BookView {
   private readonly faces = new FaceCache();
   private readonly edges: PageEdges;
   private reducedMotion = false;
+  private hasTurned = false;
   private readonly pictures: Pictures;
   private readonly sharp: SharpView;
   private readonly source: FaceSource;
@@ -268,6 +269,7 @@ export class BookView {
   }
 
   private showGround(): void {
+    this.hasTurned ||= this.turning.isMoving;
     this.paintAll();
     const last = Math.max(this.spreads.length - 1, 1);
     this.edges.place(this.layout.book, this.book.pages.length / 2, this.turning.lowest / last, this.options.rightToLeft);
@@ -278,11 +280,14 @@ export class BookView {
   /** What is seen now and at the end, then the leaves in between, then what comes after it. */
   private wantedPictures(): PictureRequest[] {
     const { lowest, highest, destination } = this.turning;
-    const order = [lowest, highest, destination, ...this.turning.leaves.map((leaf) => leaf.to)];
-    for (let step = 1; step <= SPREADS_AHEAD; step++) order.push(destination + step);
-    for (let step = 1; step <= SPREADS_BEHIND; step++) order.push(destination - step);
-    const places = new Set(order.flatMap((spread) => this.placesAt(spread)));
-    return [...places].map((place) => ({ place, width: this.pixelsAcross(place) }));
+    const seen = [lowest, highest, destination, ...this.turning.leaves.map((leaf) => leaf.to)];
+    const next: number[] = [];
+    // Who only opens the book may never turn a page.
+    for (let step = 1; step <= (this.hasTurned ? SPREADS_AHEAD : 1); step++) next.push(destination + step);
+    for (let step = 1; step <= SPREADS_BEHIND; step++) next.push(destination - step);
+    const placesSeen = new Set(seen.flatMap((spread) => this.placesAt(spread)));
+    const places = new Set([...placesSeen, ...next.flatMap((spread) => this.placesAt(spread))]);
+    return [...places].map((place) => ({ place, width: this.pixelsAcross(place), seen: placesSeen.has(place) }));
   }
 
   private pixelsAcross(place: number): number {

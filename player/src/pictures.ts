@@ -17,6 +17,8 @@ export interface Picture {
 export interface PictureRequest {
   readonly place: number;
   readonly width: number; // pixels
+  /** Whether the page is on the screen; the others wait until all of these are there. */
+  readonly seen: boolean;
 }
 
 const MOST_BITMAPS = 10;
@@ -73,8 +75,10 @@ export class Pictures {
   }
 
   private startNext(): void {
+    const isLoading = ({ place }: PictureRequest) => this.running.has(place);
     for (const request of this.wanted) {
       if (this.running.size >= AT_ONCE) return;
+      if (!request.seen && this.wanted.some((other) => other.seen && isLoading(other))) return;
       if (this.isMissing(request)) void this.load(request);
     }
   }
