@@ -29,7 +29,6 @@ export interface Page {
   readonly width: number; // pixels; 0 when there is no picture
   readonly height: number;
   readonly links: readonly PageLink[];
-  readonly lines: readonly TextLine[];
 }
 
 export interface OutlineItem {
@@ -40,7 +39,7 @@ export interface OutlineItem {
 
 export interface BookData {
   readonly version: number;
-  readonly textPages?: number;
+  readonly textPages: number;
   readonly pages: readonly Page[];
   readonly outline: readonly OutlineItem[];
 }
@@ -56,8 +55,8 @@ export interface Book {
 const WIDE_PAGE = 1.3;
 
 export function readBook(config: BookConfig, data: BookData | undefined): Book {
-  const known = isOn(config.readerData) && (data?.version === 1 || data?.version === 2);
-  const { pages, outline, textPages = 0 } = known ? data : { pages: plainPages(config), outline: [] };
+  const known = isOn(config.readerData) && data?.version === 2;
+  const { pages, outline, textPages } = known ? data : { pages: plainPages(config), outline: [], textPages: 0 };
   return { pages, outline, textPages, shape: leafShape(pages, config) };
 }
 
@@ -76,7 +75,6 @@ function plainPages(config: BookConfig): Page[] {
     width,
     height,
     links: [],
-    lines: [],
   }));
 }
 

@@ -23,7 +23,7 @@ QStringList BookContent::filesBesidePages(const FlashBookOutput& book)
     QStringList files = { book.outputHTMLFileName(), book.jQueryFileName(),
         book.mainScriptFileName(), book.styleFolderName() };
     if (book.wantsReaderData())
-        files.append(book.readerDataFileName());
+        files.append(book.readerDataFileNames());
     forEachProperty(book.flashTemplate()->properties(), [&](const auto& property) {
         if (property.propertyType() == pt_file && !property.value().isEmpty())
             files.append(book.extFileName(property));

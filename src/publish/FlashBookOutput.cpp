@@ -4,7 +4,7 @@
 #include "base/FileSteps.h"
 #include "base/Log.h"
 #include "base/ResourceFolder.h"
-#include "publish/ReaderDataFile.h"
+#include "publish/ReaderDataFiles.h"
 #include "templates/ColorCategory.h"
 
 #include <QFileInfo>
@@ -96,16 +96,16 @@ void FlashBookOutput::copyServer()
 
 void FlashBookOutput::outputReaderData()
 {
-    const ReaderDataFile file(readerDataFileName());
+    const ReaderDataFiles files(readerDataFolder());
     if (!wantsReaderData()) {
-        file.remove();
+        files.remove();
         return;
     }
     const auto imageURL
         = [this](const FlashPage& page) { return joined(iResourceFolder, getNormalPageURL(page)); };
     const ReaderBook book{ *iFlashPageSource, iFlashPagesAnnotations != nullptr,
         iFlashOutline.get(), imageURL, iWorkerCount };
-    keepResult(file.write(book), readerDataFileName());
+    keepResult(files.write(book), files.bookFile());
 }
 
 std::vector<FlashBookOutput::Companion> FlashBookOutput::companions() const
@@ -134,9 +134,14 @@ QString FlashBookOutput::mainScriptFileName() const
     return inBook(u"javascript/main.js"_s);
 }
 
-QString FlashBookOutput::readerDataFileName() const
+QStringList FlashBookOutput::readerDataFileNames() const
 {
-    return inResources(iSaveToFolder, iSearchInfoFolder + u"/book.js"_s);
+    return ReaderDataFiles(readerDataFolder()).paths();
+}
+
+QString FlashBookOutput::readerDataFolder() const
+{
+    return inResources(iSaveToFolder, iSearchInfoFolder);
 }
 
 QString FlashBookOutput::jQueryFileName() const

@@ -37,7 +37,8 @@ public:
     virtual QString outputFileName() const { return outputHTMLFileName(); }
     QString outputSWFName() const; // a name only, nothing writes it
     QString mainScriptFileName() const;
-    QString readerDataFileName() const;
+    /// "files/search/book.js", and the text files that lie beside it.
+    QStringList readerDataFileNames() const;
     QString jQueryFileName() const;
     QString styleFolderName() const;
     /// Whether the template declares the switch "readerData" and has it on.
@@ -125,6 +126,7 @@ private:
     QString extFileURL(const FlashTemplateProperty& property) const;
     QString baseOf(const QString& folder) const;
     QString serverFileName() const;
+    QString readerDataFolder() const;
     QString inBook(const QString& relativePath) const;
     QString inResources(const QString& base, const QString& relativePath) const;
 

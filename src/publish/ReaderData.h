@@ -7,8 +7,8 @@
 #include <QString>
 #include <vector>
 
-/// What the player needs beyond the configuration script: the values of the file
-/// "files/search/book.js". Rectangles are fractions of the page as it is displayed.
+/// What the player needs beyond the configuration script: the values of the files in
+/// "files/search". Rectangles are fractions of the page as it is displayed.
 namespace leafcast {
 
 /// A clickable area: a web address, or a page.

@@ -3,32 +3,42 @@
 
 #include "publish/ReaderData.h"
 
-#include <QIODevice>
+#include <QByteArrayList>
+#include <QStringList>
 
 namespace leafcast {
 
-/// Writes reader data as one script line, page by page, so that a long book's text is never in
-/// memory as a whole. Texts are escaped so that none can end its string, its script element or its
-/// line.
+/// Writes the files of reader data into a folder: the texts of so many pages at a time, so that a
+/// long book's text is never in memory as a whole, and "book.js" at the end. A book without text
+/// has no text files. Each file appears whole or not at all; failures are logged.
 class ReaderDataWriter {
 public:
-    /// The device is open for writing and outlives the writer.
-    explicit ReaderDataWriter(QIODevice& device);
+    static constexpr int pagesInTextFile = 20;
+    static constexpr QLatin1StringView bookFileName{ "book.js" };
+
+    /// The folder exists.
+    explicit ReaderDataWriter(const QString& folder)
+        : iFolder(folder)
+    {
+    }
 
     void addPage(const ReaderPage& page);
-    void finish(const std::vector<ReaderOutlineItem>& outline);
+    /// False when a file could not be written.
+    bool finish(const std::vector<ReaderOutlineItem>& outline);
 
-    /// False when the device took less than it was given, which need not leave an error in it.
     bool isWhole() const { return iIsWhole; }
-
-    /// The outline as the file holds it.
-    static QByteArray outlineText(const std::vector<ReaderOutlineItem>& outline);
+    /// Names of the text files that were written.
+    const QStringList& textFiles() const { return iTextFiles; }
 
 private:
-    void write(const QByteArray& bytes);
+    void writeTexts();
+    void write(const QString& name, const QByteArray& bytes);
 
-    QIODevice& iDevice;
-    bool iHasPages = false;
+    QString iFolder;
+    QByteArrayList iPages;
+    QByteArrayList iTexts; // of the pages whose text is not written yet
+    QStringList iTextFiles;
+    bool iHasText = false;
     bool iIsWhole = true;
 };
 

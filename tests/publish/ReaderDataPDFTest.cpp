@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "pages/FlashPageSourcePDF.h"
+#include "publish/BookContent.h"
 #include "publish/BookFixture.h"
+#include "support/FileSizeLimit.h"
 #include "support/PDFBuilder.h"
 
 #include <gtest/gtest.h>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <sys/stat.h>
 
 namespace leafcast {
 
@@ -33,6 +36,27 @@ protected:
         return QJsonDocument::fromJson(script).object();
     }
 
+    /// The lines of each page of a text file.
+    QJsonArray texts(int number) const
+    {
+        QByteArray script = bookFile(u"files/search/text-%1.js"_s.arg(number));
+        script.replace("bookText(" + QByteArray::number(number) + ',', "").replace("]);\n", "]");
+        return QJsonDocument::fromJson(script).array();
+    }
+
+    QStringList searchFiles() const
+    {
+        return QDir(inBook(u"files/search"_s)).entryList(QDir::Files, QDir::Name);
+    }
+
+    /// Changes when another file takes the place of this one.
+    ino_t identity(const QString& file) const
+    {
+        struct stat status { };
+        EXPECT_EQ(stat(QFile::encodeName(inBook(file)).constData(), &status), 0);
+        return status.st_ino;
+    }
+
     std::shared_ptr<FlashPageSourcePDF> source;
 };
 
@@ -57,9 +81,47 @@ TEST_F(ReaderDataPDFTest, HasAreasAsDisplayedForEveryRotationAndCropBox)
         EXPECT_NEAR(link[u"height"].toDouble(), page % 2 == 0 ? 0.4 : 0.3, 1e-4);
         EXPECT_EQ(pages[page][u"width"].toInt() > pages[page][u"height"].toInt(), page % 2 == 0);
     }
-    EXPECT_EQ(pages[0][u"lines"][0][u"text"].toString(), u"Leaf");
+    const QJsonValue line = texts(1)[0][0];
+    EXPECT_EQ(line[u"text"].toString(), u"Leaf");
     // The word's own box begins where the link does.
-    EXPECT_NEAR(pages[0][u"lines"][0][u"boxes"][0][0].toDouble(), 0.1, 0.01);
+    EXPECT_NEAR(line[u"boxes"][0][0].toDouble(), 0.1, 0.01);
+}
+
+TEST_F(ReaderDataPDFTest, HasTheTextsOfTwentyPagesInAFileWhileAnyPageHasText)
+{
+    PDFBuilder pdf;
+    for (int page = 0; page < 41; ++page)
+        pdf.addPage({ .content = PDFBuilder::showText(page == 40 ? "Leaf" : "", 120, 100) });
+    import(pdf, u"ALL"_s);
+    EXPECT_EQ(bookData()[u"textPages"], 20);
+    EXPECT_EQ(texts(1), QJsonArray::fromVariantList(QVariantList(20, QVariantList())));
+    EXPECT_EQ(texts(2), texts(1));
+    EXPECT_EQ(texts(3)[0][0][u"text"], u"Leaf"_s);
+
+    resources.addFile(u"book/files/search/text-0.js"_s, "another's");
+    import(pdf, u"21-41"_s);
+    EXPECT_EQ(bookData()[u"textPages"], 20);
+    EXPECT_EQ(searchFiles(),
+        QStringList({ u"book.js"_s, u"text-0.js"_s, u"text-1.js"_s, u"text-2.js"_s }));
+    const BookContent content(FlashBookOutput(source, flashTemplate, inBook(), QString()));
+    EXPECT_TRUE(content.contains(u"files/search/text-2.js"_s));
+    EXPECT_FALSE(content.contains(u"files/search/text-0.js"_s));
+    import(pdf, u"1-40"_s);
+    EXPECT_EQ(bookData()[u"textPages"], 0);
+    EXPECT_EQ(searchFiles(), QStringList({ u"book.js"_s, u"text-0.js"_s }));
+}
+
+TEST_F(ReaderDataPDFTest, LeavesFilesAloneThatAreAsTheyWere)
+{
+    PDFBuilder pdf;
+    pdf.addPage({ .content = PDFBuilder::showText("Leaf", 120, 100) });
+    import(pdf, u"ALL"_s);
+    bookData();
+    const QStringList files = { u"files/search/book.js"_s, u"files/search/text-1.js"_s };
+    const ino_t before[] = { identity(files[0]), identity(files[1]) };
+    bookData();
+    EXPECT_EQ(identity(files[0]), before[0]);
+    EXPECT_EQ(identity(files[1]), before[1]);
 }
 
 TEST_F(ReaderDataPDFTest, MapsTargetsToPlacesAndDropsUnsafeAddresses)
@@ -87,16 +149,25 @@ TEST_F(ReaderDataPDFTest, MapsTargetsToPlacesAndDropsUnsafeAddresses)
     EXPECT_EQ(links[1][u"place"], 0);
 }
 
-TEST_F(ReaderDataPDFTest, LeavesNoHalfFileWhenItIsStopped)
+TEST_F(ReaderDataPDFTest, LeavesNothingWhenTheDiskIsFullOrItIsStopped)
 {
     PDFBuilder pdf;
-    pdf.addPage();
+    pdf.addPage({ .content = PDFBuilder::showText("Leaf", 120, 100) });
     import(pdf, u"ALL"_s);
     ASSERT_FALSE(bookData().isEmpty());
-    QFile::remove(source->pages().front()->pageFilePath());
-    source->setStop(true);
+    ASSERT_FALSE(texts(1).isEmpty());
+    // With another outline nothing that was kept will do.
+    const auto outline = std::make_shared<FlashOutline>();
+    outline->items().push_back(std::make_shared<FlashOutlineItem>());
     const LogCapture log;
-    EXPECT_TRUE(bookData().isEmpty());
+    {
+        const FileSizeLimit limit(20);
+        EXPECT_TRUE(bookData(outline).isEmpty());
+        EXPECT_FALSE(FileSteps::exists(inBook(u"files/search"_s)));
+    }
+    ASSERT_FALSE(bookData().isEmpty());
+    source->setStop(true);
+    EXPECT_TRUE(bookData(outline).isEmpty());
     EXPECT_FALSE(FileSteps::exists(inBook(u"files/search"_s)));
 }
 

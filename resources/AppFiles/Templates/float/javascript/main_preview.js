@@ -48,9 +48,9 @@
   // Without the page list the names of the pictures can only be guessed.
   function readPages() {
     const data = window.bookData;
-    if (isOn(config.readerData) && data && data.version === 1) return data.pages;
+    if (isOn(config.readerData) && data && data.version === 2) return data.pages;
     const plain = (_, index) => ({
-      label: String(index + 1), image: config.normalPath + (index + 1) + '.jpg', links: [], lines: [],
+      label: String(index + 1), image: config.normalPath + (index + 1) + '.jpg', links: [],
     });
     return Array.from({ length: number(config.totalPageCount) }, plain);
   }
@@ -144,8 +144,6 @@
     node.setAttribute('role', 'group');
     node.setAttribute('aria-label', text('page', page.label));
     addPicture(page, node);
-    if (page.lines.length)
-      create('p', { className: 'spoken', textContent: page.lines.map((line) => line.text).join('\n') }, node);
     page.links.forEach((link) => addLink(link, node));
     return node;
   }

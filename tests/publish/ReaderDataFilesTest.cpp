@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "publish/ReaderDataFile.h"
+#include "publish/ReaderDataFiles.h"
 
 #include "publish/BookFixture.h"
 #include "support/FileSizeLimit.h"
 
 namespace leafcast {
 
-class ReaderDataFileTest : public BookFixture {
+class ReaderDataFilesTest : public BookFixture {
 protected:
     QByteArray writtenFor(const QByteArray& properties)
     {
@@ -16,30 +16,30 @@ protected:
     }
 };
 
-TEST_F(ReaderDataFileTest, ListsThePagesOfABookOfImagesWhileItsSwitchIsOn)
+TEST_F(ReaderDataFilesTest, ListThePagesOfABookOfImagesWhileItsSwitchIsOn)
 {
     addPage(1, picture({ 30, 40 }));
     addPage(2, "no picture", u".png"_s);
     EXPECT_EQ(writtenFor(TemporaryResources::group("g", readerData)),
-        R"(var bookData = {"version":1,"pages":[{"number":1,"label":"1","image":"files/page/1.jpg",)"
-        R"("width":30,"height":40,"links":[],"lines":[]},{"number":2,"label":"2",)"
-        R"("image":"files/page/2.png","width":0,"height":0,"links":[],"lines":[]}],"outline":[]};)"
+        R"(var bookData = {"version":2,"textPages":0,"pages":[{"number":1,"label":"1","image":"files/page/1.jpg",)"
+        R"("width":30,"height":40,"links":[]},{"number":2,"label":"2",)"
+        R"("image":"files/page/2.png","width":0,"height":0,"links":[]}],"outline":[]};)"
         "\n");
     resources.addFile(u"book/files/search/mine.txt"_s, "mine");
     EXPECT_EQ(writtenFor(TemporaryResources::property("pt_bool", "readerData", "NO")), "none");
     EXPECT_EQ(bookFile(u"files/search/mine.txt"_s), "mine");
 }
 
-TEST_F(ReaderDataFileTest, IsGoneWhenTheDiskIsFullWhateverWasWritten)
+TEST_F(ReaderDataFilesTest, AreGoneWhenTheDiskIsFullWhateverWasWritten)
 {
     const LogCapture log;
-    const QString path = inBook(u"files/search/book.js"_s);
+    const ReaderDataFiles files(inBook(u"files/search"_s));
     pageSource->normalPages().resize(1000, std::make_shared<FlashPage>(u"/p/1.jpg"_s, 1));
     const ReaderBook book{ *pageSource, false, nullptr, [](const auto&) { return u"p"_s; }, 0 };
-    ASSERT_TRUE(ReaderDataFile(path).write(book));
+    ASSERT_TRUE(files.write(book));
     const FileSizeLimit limit(60);
-    EXPECT_FALSE(ReaderDataFile(path).write(book));
-    EXPECT_FALSE(FileSteps::exists(path));
+    EXPECT_FALSE(files.write(book));
+    EXPECT_FALSE(FileSteps::exists(files.bookFile()));
 }
 
 TEST(ReaderPages, PublishesFourKindsOfAddressesOnly)

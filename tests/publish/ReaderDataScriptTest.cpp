@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "publish/ReaderDataWriter.h"
+#include "publish/ReaderDataScript.h"
 
 #include "support/TestFiles.h"
-
-#include <QBuffer>
 
 using namespace Qt::StringLiterals;
 using namespace leafcast;
 
-// The player's tests read the same file.
-TEST(ReaderDataWriter, WritesWhatThePlayerReads)
+// The player's tests read the same files.
+TEST(ReaderDataScript, HoldsWhatThePlayerReads)
 {
     const ReaderPage pages[]
         = { { 5, u"v"_s, u"files/page/5.jpg"_s, 1224, 1584,
@@ -22,13 +20,18 @@ TEST(ReaderDataWriter, WritesWhatThePlayerReads)
               { 6, u"6"_s, u"files/page/6.jpg"_s, 1584, 1224, {},
                   { { u"Landscape"_s, { { 0, 0, 0.5, 0.5 } } } } },
               { 7, u"7"_s, u"files/page/7.jpg"_s, 0, 0, {}, {} } };
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    ReaderDataWriter writer(buffer);
-    for (const ReaderPage& page : pages)
-        writer.addPage(page);
-    writer.finish({ { u"Chapter <1>"_s, 5, 1,
-                        { { u"Section"_s, 7, 3, {} }, { u"Not in the book"_s, 40, 0, {} } } },
-        { u"No target"_s, 0, 0, {} } });
-    EXPECT_EQ(buffer.data(), readTestFile(QStringLiteral(LEAFCAST_FIXTURES "/reader-data.js")));
+    QByteArrayList entries;
+    QByteArrayList texts;
+    for (const ReaderPage& page : pages) {
+        entries.append(ReaderDataScript::page(page));
+        texts.append(ReaderDataScript::text(page.lines));
+    }
+    const QByteArray outline = ReaderDataScript::outline(
+        { { u"Chapter <1>"_s, 5, 1,
+              { { u"Section"_s, 7, 3, {} }, { u"Not in the book"_s, 40, 0, {} } } },
+            { u"No target"_s, 0, 0, {} } });
+    EXPECT_EQ(ReaderDataScript::bookFile(20, entries, outline),
+        readTestFile(QStringLiteral(LEAFCAST_FIXTURES "/reader-data/book.js")));
+    EXPECT_EQ(ReaderDataScript::textFile(1, texts),
+        readTestFile(QStringLiteral(LEAFCAST_FIXTURES "/reader-data/text-1.js")));
 }

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "publish/ReaderData.h"
+
+#include <QByteArrayList>
+
+/// The scripts that hold reader data, each one line, and the pieces that they are put together
+/// from. Texts are escaped so that none can end its string, its script element or its line.
+namespace leafcast::ReaderDataScript {
+
+/// All of a page but its text.
+QByteArray page(const ReaderPage& page);
+/// A page's text.
+QByteArray text(const std::vector<PDFTextLine>& lines);
+QByteArray outline(const std::vector<ReaderOutlineItem>& items);
+
+/// The file "book.js". textPages: how many pages' texts lie in one file; 0 when there is no text.
+QByteArray bookFile(int textPages, const QByteArrayList& pages, const QByteArray& outline);
+/// The file "text-NUMBER.js", numbered from 1.
+QByteArray textFile(int number, const QByteArrayList& texts);
+
+} // namespace leafcast::ReaderDataScript
