@@ -5,9 +5,8 @@
 #include <array>
 #include <boost/asio/redirect_error.hpp>
 #include <boost/asio/use_awaitable.hpp>
-#include <boost/asio/write.hpp>
 #include <boost/beast/core/flat_buffer.hpp>
-#include <boost/beast/http/read.hpp>
+#include <boost/beast/http/parser.hpp>
 #include <boost/beast/http/write.hpp>
 #include <netinet/tcp.h>
 #include <sys/sendfile.h>
@@ -28,6 +27,7 @@ namespace {
     constexpr auto FarewellTime = 2s;
 
     constexpr size_t MostHeaderBytes = size_t{ 16 } << 10;
+    constexpr size_t ReadSize = 1024; // a browser's header fits
     constexpr size_t MostFarewellBytes = size_t{ 64 } << 10;
     constexpr int64_t MostBytesAtOnce = int64_t{ 1 }
         << 20; // then other connections have their turn
@@ -52,22 +52,44 @@ namespace {
             co_return;
         client.time.expireAfter(IdleTime);
         client.buffer.commit(co_await client.socket.async_read_some(
-            client.buffer.prepare(1024), net::use_awaitable));
+            client.buffer.prepare(ReadSize), net::use_awaitable));
+    }
+
+    // Beast's own reading limits what it holds, not what it has read: fields that come one by one
+    // would pass without end.
+    net::awaitable<void> readHeader(Client& client, Parser& parser, beast::error_code& error)
+    {
+        client.time.expireAfter(HeaderTime);
+        for (size_t parsed = 0;;) {
+            const size_t count = parser.put(client.buffer.data(), error);
+            client.buffer.consume(count);
+            parsed += count;
+            if (error != http::error::need_more)
+                co_return;
+            const size_t taken = parsed + client.buffer.size();
+            if (taken >= MostHeaderBytes) {
+                error = http::error::header_limit;
+                co_return;
+            }
+            client.buffer.commit(co_await client.socket.async_read_some(
+                client.buffer.prepare(std::min(MostHeaderBytes - taken, ReadSize)),
+                net::redirect_error(net::use_awaitable, error)));
+            if (error)
+                co_return;
+        }
     }
 
     bool isClientsFault(const beast::error_code& error)
     {
         static const beast::error_code anyHTTP = http::make_error_code(http::error::bad_method);
-        return error.category() == anyHTTP.category() && error != http::error::end_of_stream
-            && error != http::error::partial_message;
+        return error.category() == anyHTTP.category();
     }
 
     Reply refusalOf(const beast::error_code& error)
     {
-        const bool tooLong
-            = error == http::error::header_limit || error == http::error::buffer_overflow;
-        Reply reply = refusal(
-            tooLong ? http::status::request_header_fields_too_large : http::status::bad_request);
+        Reply reply = refusal(error == http::error::header_limit
+                ? http::status::request_header_fields_too_large
+                : http::status::bad_request);
         reply.closesConnection = true;
         return reply;
     }
@@ -94,6 +116,15 @@ namespace {
         }
     }
 
+    net::awaitable<void> sendText(Client& client, const std::string& text)
+    {
+        for (size_t position = 0; position < text.size();) {
+            client.time.expireAfter(StallTime);
+            position += co_await client.socket.async_write_some(
+                net::buffer(text) + position, net::use_awaitable);
+        }
+    }
+
     // While it is corked a socket sends full packets only: the head goes out with the body.
     void setCorked(Client& client, int corked)
     {
@@ -107,7 +138,7 @@ namespace {
         http::response_serializer<http::empty_body> serializer(reply.head);
         co_await http::async_write_header(client.socket, serializer, net::use_awaitable);
         if (reply.text)
-            co_await net::async_write(client.socket, net::buffer(*reply.text), net::use_awaitable);
+            co_await sendText(client, *reply.text);
         if (reply.file)
             co_await sendFile(client, reply);
         setCorked(client, 0);
@@ -133,12 +164,10 @@ net::awaitable<void> serveConnection(tcp::socket socket, FilePolicy& policy, Con
     Client client(std::move(socket), times);
     for (bool keepsAlive = true; keepsAlive;) {
         co_await waitForRequest(client);
-        client.time.expireAfter(HeaderTime);
         Parser parser;
         parser.header_limit(MostHeaderBytes);
         beast::error_code error;
-        co_await http::async_read_header(
-            client.socket, client.buffer, parser, net::redirect_error(net::use_awaitable, error));
+        co_await readHeader(client, parser, error);
         if (error && !isClientsFault(error))
             co_return;
         Reply reply = error ? refusalOf(error) : policy.answer(parser.get());

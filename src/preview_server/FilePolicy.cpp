@@ -161,6 +161,7 @@ Reply FilePolicy::answerPath(const Request& request, std::string_view target)
         if (!path->endsWithSlash) {
             Reply reply(http::status::moved_permanently);
             reply.setField(http::field::location, path->folderLink());
+            reply.setField(http::field::cache_control, "no-cache");
             return reply;
         }
         break;

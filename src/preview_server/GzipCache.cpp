@@ -12,15 +12,17 @@ namespace {
     constexpr int64_t SmallestFile = 512;
     constexpr int64_t LargestFile = int64_t{ 32 } << 20;
     constexpr size_t MostBytesKept = size_t{ 6 } << 20;
+    constexpr size_t MostEntries = 256;
     constexpr int GzipWindow = MAX_WBITS + 16; // zlib's way of asking for a gzip header
     constexpr int MemoryLevel = 8; // zlib's default
+    constexpr int Effort = 5; // of 9; more costs time and saves hardly anything
 
     class GzipStream {
     public:
         GzipStream()
         {
-            iGood = deflateInit2(&iStream, Z_BEST_SPEED + 4, Z_DEFLATED, GzipWindow, MemoryLevel,
-                        Z_DEFAULT_STRATEGY)
+            iGood = deflateInit2(
+                        &iStream, Effort, Z_DEFLATED, GzipWindow, MemoryLevel, Z_DEFAULT_STRATEGY)
                 == Z_OK;
         }
         ~GzipStream() { deflateEnd(&iStream); }
@@ -47,8 +49,11 @@ namespace {
         std::array<unsigned char, size_t{ 32 } << 10> iBuffer{};
     };
 
+    // Null when it can't be read or would not get smaller, or not small enough to be kept: without
+    // being kept, each client could have its own copy in memory.
     SharedText compressedFile(const ServedFile& file)
     {
+        const size_t most = std::min(static_cast<size_t>(file.size), MostBytesKept);
         GzipStream stream;
         std::string output;
         std::array<unsigned char, size_t{ 32 } << 10> input;
@@ -61,6 +66,8 @@ namespace {
             position += count;
             stream.add(input.data(), static_cast<size_t>(count),
                 position < file.size ? Z_NO_FLUSH : Z_FINISH, output);
+            if (output.size() > most)
+                return nullptr;
         }
         return stream.isGood() ? std::make_shared<const std::string>(std::move(output)) : nullptr;
     }
@@ -71,34 +78,35 @@ SharedText GzipCache::compressed(const ServedFile& file)
 {
     if (file.size < SmallestFile || file.size > LargestFile)
         return nullptr;
-    if (SharedText kept = find(file.version))
-        return kept;
-    SharedText bytes = compressedFile(file);
-    if (bytes)
-        keep(file.version, bytes);
-    return bytes;
+    if (const auto kept = find(file.version))
+        return *kept;
+    return keep(file.version, compressedFile(file));
 }
 
-SharedText GzipCache::find(const std::string& version)
+std::optional<SharedText> GzipCache::find(const std::string& version)
 {
     const std::lock_guard lock(iMutex);
     const auto found = std::find_if(iEntries.begin(), iEntries.end(),
         [&](const Entry& entry) { return entry.version == version; });
     if (found == iEntries.end())
-        return nullptr;
+        return std::nullopt;
     iEntries.splice(iEntries.begin(), iEntries, found);
     return found->bytes;
 }
 
-void GzipCache::keep(const std::string& version, const SharedText& bytes)
+SharedText GzipCache::keep(const std::string& version, SharedText bytes)
 {
+    if (const auto kept = find(version)) // another thread was faster
+        return *kept;
     const std::lock_guard lock(iMutex);
     iEntries.push_front({ version, bytes });
-    iBytes += bytes->size();
-    while (iBytes > MostBytesKept) {
-        iBytes -= iEntries.back().bytes->size();
+    iBytes += bytes ? bytes->size() : 0;
+    while (iBytes > MostBytesKept || iEntries.size() > MostEntries) {
+        const SharedText& last = iEntries.back().bytes;
+        iBytes -= last ? last->size() : 0;
         iEntries.pop_back();
     }
+    return bytes;
 }
 
 } // namespace leafcast::preview

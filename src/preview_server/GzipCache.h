@@ -6,6 +6,7 @@
 #include <list>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 
 namespace leafcast::preview {
@@ -17,17 +18,17 @@ using SharedText = std::shared_ptr<const std::string>;
 class GzipCache {
 public:
     /// The whole file compressed; null when it can't be read, is too large to be compressed while
-    /// somebody waits, or is so small that nothing is saved.
+    /// somebody waits or to be kept, or nothing is saved.
     SharedText compressed(const ServedFile& file);
 
 private:
     struct Entry {
         std::string version;
-        SharedText bytes;
+        SharedText bytes; // null for a file that is better sent as it is
     };
 
-    SharedText find(const std::string& version);
-    void keep(const std::string& version, const SharedText& bytes);
+    std::optional<SharedText> find(const std::string& version);
+    SharedText keep(const std::string& version, SharedText bytes);
 
     std::mutex iMutex;
     std::list<Entry> iEntries; // the one asked for last is in front

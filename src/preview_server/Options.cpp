@@ -69,9 +69,13 @@ Options parseOptions(int argumentCount, char** arguments)
 {
     Options options;
     opterr = 0;
-    int letter = 0;
-    while ((letter = getopt_long(argumentCount, arguments, "", LongOptions, nullptr)) != -1)
-        take(letter, arguments[optind - 1], options);
+    for (;;) {
+        const char* argument = arguments[optind];
+        const int letter = getopt_long(argumentCount, arguments, "+", LongOptions, nullptr);
+        if (letter == -1)
+            break;
+        take(letter, argument, options);
+    }
     if (optind < argumentCount)
         throw WrongUsage("\"" + std::string(arguments[optind])
             + "\": it serves the folder that it is started in and takes no other");

@@ -8,9 +8,10 @@
 #include <boost/asio/detached.hpp>
 #include <boost/asio/ip/v6_only.hpp>
 #include <boost/asio/redirect_error.hpp>
-#include <boost/asio/signal_set.hpp>
 #include <boost/asio/steady_timer.hpp>
 #include <boost/asio/use_awaitable.hpp>
+#include <csignal>
+#include <fcntl.h>
 #include <thread>
 #include <unistd.h>
 
@@ -57,6 +58,7 @@ Server::Server(const ServedFolder& folder)
 {
     for (unsigned i = 0; i < threadCount(); ++i)
         iWorkers.push_back(std::make_unique<Worker>());
+    iSignals.emplace(iWorkers.front()->context, SIGINT, SIGTERM, SIGHUP);
 }
 
 uint16_t Server::listen(
@@ -83,6 +85,8 @@ std::vector<tcp::acceptor> Server::openAcceptors(
         boost::system::error_code error;
         acceptor.open(address.is_v6() ? tcp::v6() : tcp::v4(), error);
         if (!error) {
+            // The browser that --open starts must not keep the port.
+            fcntl(acceptor.native_handle(), F_SETFD, FD_CLOEXEC);
             acceptor.set_option(net::socket_base::reuse_address(true));
             if (address.is_v6())
                 acceptor.set_option(net::ip::v6_only(true));
@@ -103,8 +107,7 @@ std::vector<tcp::acceptor> Server::openAcceptors(
 void Server::run()
 {
     net::io_context& main = iWorkers.front()->context;
-    net::signal_set signals(main, SIGINT, SIGTERM, SIGHUP);
-    signals.async_wait([this](const boost::system::error_code&, int) { stop(); });
+    iSignals->async_wait([this](const boost::system::error_code&, int) { stop(); });
     for (Acceptor& acceptor : iAcceptors)
         net::co_spawn(main, acceptConnections(acceptor), net::detached);
     net::co_spawn(main, endWithParent(), net::detached);

@@ -8,7 +8,9 @@
 #include <boost/asio/awaitable.hpp>
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/ip/tcp.hpp>
+#include <boost/asio/signal_set.hpp>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace leafcast::preview {
@@ -52,6 +54,8 @@ private:
     ConnectionLimits iLimits;
     std::vector<std::unique_ptr<Worker>> iWorkers; // the first one accepts for all
     size_t iNextWorker = 0;
+    std::optional<boost::asio::signal_set>
+        iSignals; // from the start, so that none ends us half-way
     std::vector<Acceptor> iAcceptors;
 };
 

@@ -38,17 +38,20 @@ export function scriptWith(book, settings) {
   }, script);
 }
 
+/** Opens a book from its folder. */
+export const openBook = (browser, folder, options) => openBookAt(browser, pathToFileURL(folder).href + '/', options);
+
 /**
- * Opens a book from its folder. `page.troubles` collects errors, failed requests and requests that
- * leave the folder.
+ * Opens the book at an address that ends with a slash. `page.troubles` collects errors, failed
+ * requests and requests that leave the book.
  */
-export async function openBook(browser, folder, { width = 1280, height = 800, hash = '', ...context } = {}) {
+export async function openBookAt(browser, home, { width = 1280, height = 800, hash = '', ...context } = {}) {
   const page = await browser.newPage({ viewport: { width, height }, ...context });
   page.troubles = [];
   page.on('console', (message) => message.type() === 'error' && page.troubles.push(message.text()));
   page.on('pageerror', (error) => page.troubles.push(error.message));
   page.on('requestfailed', (request) => page.troubles.push(`failed: ${request.url()}`));
-  const home = pathToFileURL(folder).href + '/';
+  page.on('response', (response) => response.status() >= 400 && page.troubles.push(`${response.status()}: ${response.url()}`));
   page.on('request', (request) => {
     if (!/^(data|blob):/.test(request.url()) && !request.url().startsWith(home)) page.troubles.push(`foreign: ${request.url()}`);
   });
