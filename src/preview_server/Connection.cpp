@@ -5,9 +5,10 @@
 #include <array>
 #include <boost/asio/redirect_error.hpp>
 #include <boost/asio/use_awaitable.hpp>
+#include <boost/beast/core/buffers_to_string.hpp>
 #include <boost/beast/core/flat_buffer.hpp>
 #include <boost/beast/http/parser.hpp>
-#include <boost/beast/http/write.hpp>
+#include <boost/beast/http/serializer.hpp>
 #include <netinet/tcp.h>
 #include <sys/sendfile.h>
 
@@ -116,11 +117,22 @@ namespace {
         }
     }
 
+    std::string textOf(Reply& reply)
+    {
+        http::response_serializer<http::empty_body> serializer(reply.head);
+        std::string text;
+        beast::error_code none;
+        serializer.next(none, [&](beast::error_code&, const auto& buffers) {
+            text = beast::buffers_to_string(buffers);
+        });
+        return text;
+    }
+
     net::awaitable<void> sendText(Client& client, const std::string& text)
     {
         for (size_t position = 0; position < text.size();) {
             client.time.expireAfter(StallTime);
-            position += co_await client.socket.async_write_some(
+            position += co_await client.socket.async_send(
                 net::buffer(text) + position, net::use_awaitable);
         }
     }
@@ -133,13 +145,11 @@ namespace {
 
     net::awaitable<void> send(Client& client, Reply& reply)
     {
-        client.time.expireAfter(StallTime);
         setCorked(client, 1);
-        http::response_serializer<http::empty_body> serializer(reply.head);
-        co_await http::async_write_header(client.socket, serializer, net::use_awaitable);
+        co_await sendText(client, textOf(reply));
         if (reply.text)
             co_await sendText(client, *reply.text);
-        if (reply.file)
+        if (reply.count > 0)
             co_await sendFile(client, reply);
         setCorked(client, 0);
     }

@@ -5,7 +5,9 @@
 #include <cstdio>
 #include <dirent.h>
 #include <fcntl.h>
+#include <linux/openat2.h>
 #include <memory>
+#include <sys/syscall.h>
 #include <system_error>
 
 namespace leafcast::preview {
@@ -14,8 +16,9 @@ namespace {
 
     constexpr const char* IndexPage = "index.html";
 
-    // Without O_NONBLOCK opening a named pipe would wait for its writer.
-    constexpr int FileFlags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    // Without O_NONBLOCK opening a named pipe would wait for its writer; without O_NOCTTY a
+    // terminal would become ours.
+    constexpr int FileFlags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     constexpr int FolderFlags = O_RDONLY | O_NOFOLLOW | O_DIRECTORY | O_CLOEXEC;
 
     Lookup failedLookup()
@@ -50,34 +53,45 @@ Lookup ServedFolder::find(const RequestPath& path) const
     std::vector<std::string> names = path.names;
     if (names.empty() || path.endsWithSlash)
         names.emplace_back(names.empty() ? pageOfRoot() : IndexPage);
-    FileDescriptor folder;
-    for (size_t i = 0; i + 1 < names.size(); ++i) {
-        const int parent = folder ? folder.get() : iRoot.get();
-        FileDescriptor next(openat(parent, names[i].c_str(), FolderFlags));
-        if (!next)
-            return failedLookup();
-        folder = std::move(next);
-    }
-    return findIn(folder ? folder.get() : iRoot.get(), names.back());
-}
-
-Lookup ServedFolder::findIn(int folder, const std::string& name) const
-{
-    struct stat status { };
-    // Looked at before it is opened: opening a device can have effects.
-    if (fstatat(folder, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+    FileDescriptor file = openBeneath(names);
+    if (!file)
         return failedLookup();
+    struct stat status { };
+    if (fstat(file.get(), &status) != 0)
+        return {};
     if (S_ISDIR(status.st_mode))
         return { Lookup::Result::Folder, {} };
     if (!S_ISREG(status.st_mode))
         return {};
-    FileDescriptor file(openat(folder, name.c_str(), FileFlags));
-    if (!file)
-        return failedLookup();
-    if (fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
-        return {};
     return { Lookup::Result::File,
-        { std::move(file), name, status.st_size, status.st_mtim, versionOf(status) } };
+        { std::move(file), names.back(), status.st_size, status.st_mtim, versionOf(status) } };
+}
+
+FileDescriptor ServedFolder::openBeneath(const std::vector<std::string>& names) const
+{
+    std::string path;
+    for (const std::string& name : names)
+        path += (path.empty() ? "" : "/") + name;
+    open_how how{};
+    how.flags = FileFlags;
+    how.resolve = RESOLVE_BENEATH | RESOLVE_NO_SYMLINKS;
+    const long opened = syscall(SYS_openat2, iRoot.get(), path.c_str(), &how, sizeof how);
+    // Kernels before 5.6 don't know it, some sandboxes don't allow it.
+    const bool unknown = opened < 0 && (errno == ENOSYS || errno == EPERM);
+    return unknown ? openStepByStep(names) : FileDescriptor(static_cast<int>(opened));
+}
+
+FileDescriptor ServedFolder::openStepByStep(const std::vector<std::string>& names) const
+{
+    FileDescriptor folder;
+    for (size_t i = 0; i < names.size(); ++i) {
+        const int parent = folder ? folder.get() : iRoot.get();
+        const int flags = i + 1 < names.size() ? FolderFlags : FileFlags;
+        folder = FileDescriptor(openat(parent, names[i].c_str(), flags));
+        if (!folder)
+            break;
+    }
+    return folder;
 }
 
 std::string ServedFolder::pageOfRoot() const

@@ -25,8 +25,8 @@ struct Lookup {
     ServedFile file; // of a File
 };
 
-/// The folder that is served. Nothing but regular files below it can be reached: every name on the
-/// way is opened relative to the folder before it, and links are never followed.
+/// The folder that is served. Nothing but regular files below it can be reached: paths are resolved
+/// from the opened folder, and links are never followed.
 class ServedFolder {
 public:
     /// Throws std::system_error when it can't be opened.
@@ -37,7 +37,8 @@ public:
     Lookup find(const RequestPath& path) const;
 
 private:
-    Lookup findIn(int folder, const std::string& name) const;
+    FileDescriptor openBeneath(const std::vector<std::string>& names) const;
+    FileDescriptor openStepByStep(const std::vector<std::string>& names) const;
     std::string pageOfRoot() const;
 
     FileDescriptor iRoot;
