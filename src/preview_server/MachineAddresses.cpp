@@ -116,9 +116,9 @@ std::vector<ip::address> machineAddresses()
     std::erase_if(found, [](const InterfaceAddress& entry) { return isLinkLocal(entry.address); });
     std::stable_sort(found.begin(), found.end(),
         [](const auto& one, const auto& other) { return remoteness(one) < remoteness(other); });
-    std::vector<ip::address> addresses;
-    for (const InterfaceAddress& entry : found)
-        addresses.push_back(entry.address);
+    std::vector<ip::address> addresses(found.size());
+    std::transform(found.begin(), found.end(), addresses.begin(),
+        [](const InterfaceAddress& entry) { return entry.address; });
     return addresses;
 }
 

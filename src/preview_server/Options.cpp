@@ -21,7 +21,7 @@ namespace {
     boost::asio::ip::address parseAddress(const char* text)
     {
         boost::system::error_code error;
-        const auto address = boost::asio::ip::make_address(text, error);
+        auto address = boost::asio::ip::make_address(text, error);
         if (error)
             throw WrongUsage("--bind: \"" + std::string(text) + "\" is no IP address");
         return address;
