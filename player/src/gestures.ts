@@ -50,7 +50,10 @@ export class Gestures {
     element.addEventListener('pointermove', (event) => this.move(event));
     element.addEventListener('pointerup', (event) => this.up(event));
     element.addEventListener('pointercancel', (event) => this.lost(event));
-    element.addEventListener('lostpointercapture', (event) => this.lost(event));
+    element.addEventListener('lostpointercapture', (event) => {
+      // A finger is captured by what it touched first, which loses it when the element takes it over.
+      if (event.target === element) this.lost(event);
+    });
   }
 
   private down(event: PointerEvent): void {
