@@ -32,6 +32,8 @@ export interface ViewEvents {
   /** Places or sizes of pages on the screen changed. */
   placed(pages: readonly PlacedPage[]): void;
   zoomed(zoom: Zoom): void;
+  /** A page's picture came, or could not be loaded. */
+  pictured(place: number): void;
   /** The reader asked for a page by the book itself. */
   jumpAsked(place: number): void;
 }
@@ -77,9 +79,10 @@ export class BookView {
     this.pictures = new Pictures(
       (at) => (page(at)?.width === 0 ? '' : (page(at)?.image ?? '')),
       (at) => ({ width: page(at)?.width ?? 0, height: page(at)?.height ?? 0 }),
-      () => {
+      (at) => {
         this.faces.forget();
         this.paintAll();
+        events.pictured(at);
       },
     );
     this.source = {

@@ -115,15 +115,11 @@ export class Pictures {
   }
 
   private async source(place: number, signal: AbortSignal): Promise<ImageBitmapSource> {
-    const url = this.urlOf(place);
-    if (location.protocol === 'file:') return loadImage(url, signal);
     const kept = this.blobs.get(place);
     if (kept) return kept;
-    const response = await fetch(url, { signal });
-    if (!response.ok) throw new Error(`${url}: ${response.status}`);
-    const blob = await response.blob();
-    this.keepBlob(place, blob);
-    return blob;
+    const source = await loadSource(this.urlOf(place), signal);
+    if (source instanceof Blob) this.keepBlob(place, source);
+    return source;
   }
 
   private keepBlob(place: number, blob: Blob): void {
@@ -150,6 +146,14 @@ const resized = (width: number): ImageBitmapOptions => ({
   resizeWidth: Math.max(1, Math.round(width)),
   resizeQuality: 'high',
 });
+
+/** What a bitmap can be made of; see above for why it differs with the protocol. */
+export async function loadSource(url: string, signal = new AbortController().signal): Promise<Blob | HTMLImageElement> {
+  if (location.protocol === 'file:') return loadImage(url, signal);
+  const response = await fetch(url, { signal });
+  if (!response.ok) throw new Error(`${url}: ${response.status}`);
+  return response.blob();
+}
 
 function loadImage(url: string, signal: AbortSignal): Promise<HTMLImageElement> {
   return new Promise((resolve, reject) => {

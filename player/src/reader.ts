@@ -17,6 +17,8 @@ export interface ReaderEvents {
   /** Where pages lie on the sheet, for what is laid over them. */
   placed: readonly PlacedPage[];
   zoomed: Zoom;
+  /** A page's picture came, or could not be loaded. */
+  pictured: number;
   /** A jump is about to happen, from a page to another; for the history. */
   jumped: { readonly from: number; readonly to: number };
 }
@@ -43,6 +45,7 @@ export class Reader extends Emitter<ReaderEvents> {
       settled: (places: readonly number[]) => this.emit('settled', places),
       placed: (pages: readonly PlacedPage[]) => this.emit('placed', pages),
       zoomed: (zoom: Zoom) => this.emit('zoomed', zoom),
+      pictured: (place: number) => this.emit('pictured', place),
       jumpAsked: (to: number) => this.goTo(to),
     };
     this.view = new BookView(stage, book, options, events, this.within(place));

@@ -45,6 +45,8 @@ export const CONTROLS = [
   'share',
   'autoTurn',
   'sound',
+  'motion',
+  'help',
 ] as const;
 
 export type Control = (typeof CONTROLS)[number];
@@ -75,7 +77,7 @@ export function readSettings(config: BookConfig): Settings {
     keyboard: flag('keyboardControl', true),
     wheelTurns: flag('wheelTurns', true),
     remembersPage: flag('rememberLastPage', true),
-    linkTarget: text('OpenWindow') === 'Self' ? '_self' : '_blank',
+    linkTarget: /self$/i.test(text('OpenWindow')) ? '_self' : '_blank',
     sound: flag('turnSound', false),
     autoTurnSeconds: Math.max(number('autoTurnSeconds', 6), 1),
     logo: text('LogoFile'),

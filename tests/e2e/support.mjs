@@ -31,11 +31,12 @@ export function changedBook(book, { files = {}, removed = [] }) {
 /** The book's script with other settings, as the property editor would write them. */
 export function scriptWith(book, settings) {
   const script = readFileSync(join(book, 'javascript/main.js'), 'utf8');
+  const start = script.lastIndexOf('var bookConfig = ');
   return Object.entries(settings).reduce((text, [key, value]) => {
     const entry = new RegExp(`([{,]${key}:)("[^"]*"|[^",]*)(?=,)`);
     if (!entry.test(text)) throw new Error(`The book's script has no setting ${key}.`);
     return text.replace(entry, `$1${JSON.stringify(value)}`);
-  }, script);
+  }, script.slice(start)).replace(/^/, () => script.slice(0, start));
 }
 
 /** Opens a book from its folder. */

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+import { hashOf } from './address.ts';
+import type { OutlineItem } from './book.ts';
+import { create } from './dom.ts';
+import { icon } from './icons.ts';
+import type { PanelContent } from './sidePanel.ts';
+import type { Ui } from './ui.ts';
+
+/** The outline as a tree, open where the book lies open. */
+export function contentsPanel(ui: Ui): PanelContent {
+  const { reader } = ui;
+  const path = pathTo(reader.book.outline, reader.places[reader.places.length - 1] ?? 1);
+  const element = create('div', { className: 'panel-body contents' }, branch(ui, reader.book.outline, path));
+  const current = (): HTMLElement | null => element.querySelector('[aria-current]') ?? element.querySelector('a');
+  return { element, focus: () => current()?.focus(), shown: () => current()?.scrollIntoView({ block: 'center' }) };
+}
+
+/** The items that lead to the last one that starts at or before a place. */
+export function pathTo(items: readonly OutlineItem[], place: number): OutlineItem[] {
+  let path: OutlineItem[] = [];
+  for (const item of items) {
+    const deeper = pathTo(item.items, place);
+    const reached = item.place > 0 && item.place <= place ? [item] : [];
+    const found = deeper.length > 0 ? [item, ...deeper] : reached;
+    if (startOf(found) >= startOf(path)) path = found.length > 0 ? found : path;
+  }
+  return path;
+}
+
+const startOf = (path: readonly OutlineItem[]): number => path[path.length - 1]?.place ?? 0;
+
+function branch(ui: Ui, items: readonly OutlineItem[], path: readonly OutlineItem[]): HTMLElement {
+  return create('ul', {}, ...items.map((item) => create('li', {}, ...entry(ui, item, path))));
+}
+
+function entry(ui: Ui, item: OutlineItem, path: readonly OutlineItem[]): HTMLElement[] {
+  const title = leader(ui, item, item === path[path.length - 1]);
+  if (item.items.length === 0) return [create('div', { className: 'row' }, create('span', { className: 'no-twist' }), title)];
+  const children = create('div', { className: 'branch', hidden: true });
+  const twist = create('button', { type: 'button', className: 'twist', 'aria-label': ui.say('open', item.title) }, icon('expand'));
+  const open = (isOpen: boolean) => {
+    twist.setAttribute('aria-expanded', String(isOpen));
+    children.hidden = !isOpen;
+    // Long outlines cost only what is looked at.
+    children.replaceChildren(...(isOpen ? [branch(ui, item.items, path)] : []));
+  };
+  twist.addEventListener('click', () => open(children.hidden));
+  open(path.includes(item) && item !== path[path.length - 1]);
+  return [create('div', { className: 'row' }, twist, title), children];
+}
+
+function leader({ reader, names, panel }: Ui, { title, place }: OutlineItem, isCurrent: boolean): HTMLElement {
+  if (place === 0) return create('span', { className: 'leads-nowhere' }, title);
+  const label = create('span', { className: 'number' }, names.label(place));
+  const anchor = create('a', { href: hashOf(place), 'aria-current': isCurrent ? 'true' : undefined }, create('span', {}, title), ' ', label);
+  anchor.addEventListener('click', (event) => {
+    if (event.ctrlKey || event.metaKey || event.shiftKey) return;
+    event.preventDefault();
+    panel.makeWay();
+    reader.goTo(place);
+  });
+  return anchor;
+}

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+import type { BookConfig, BookData } from './book.ts';
+import { answerMessages } from './messages.ts';
+import { type MountedBook, mountBook } from './mount.ts';
+
+/**
+ * The same player for any page: `leafcastBook.mount(element, config, data)` shows a book in an
+ * element that has a size. Paths of pictures count from the page's address. The answer turns the
+ * book and tells of it:
+ *
+ *     const book = leafcastBook.mount(element, bookConfig, bookData, { place: 4 });
+ *     book.on('settled', (places) => ...);    // or 'turned', at once
+ *     book.goTo(12); book.next(); book.previous(); book.destroy();
+ *
+ * In a frame the page around it can do the same by messages (messages.ts).
+ */
+export interface EmbeddedBook {
+  goTo(place: number): void;
+  next(): void;
+  previous(): void;
+  on(name: 'turned' | 'settled', listener: (places: readonly number[]) => void): () => void;
+  destroy(): void;
+}
+
+function mount(element: HTMLElement, config: BookConfig, data?: BookData, options: { place?: number } = {}): EmbeddedBook {
+  const { reader, signal, destroy }: MountedBook = mountBook(element, config, data, options);
+  if (reader) answerMessages(reader, signal);
+  return {
+    goTo: (place) => reader?.goTo(place),
+    next: () => void reader?.next(),
+    previous: () => void reader?.previous(),
+    on: (name, listener) => reader?.on(name, listener) ?? (() => {}),
+    destroy,
+  };
+}
+
+Object.assign(window, { leafcastBook: { mount } });

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+import { type BookConfig, type BookData, readBook } from './book.ts';
+import { BookTexts } from './bookTexts.ts';
+import { create } from './dom.ts';
+import { firstPlace, keepAddress } from './history.ts';
+import { listenToKeys } from './keys.ts';
+import { dress } from './look.ts';
+import { PageLayer } from './pageLayer.ts';
+import { makePageField } from './pageField.ts';
+import { PageNames } from './pageNames.ts';
+import { Reader } from './reader.ts';
+import { readSettings, type Settings } from './settings.ts';
+import { SidePanel } from './sidePanel.ts';
+import { makeSlider } from './slider.ts';
+import { chooseLanguage, sayIn, type Say } from './texts.ts';
+import { Thumbnails } from './thumbnails.ts';
+import { makeToolbar, type RankedTool } from './toolbar.ts';
+import { makeTools } from './tools.ts';
+import { makeTurnButtons } from './turnButtons.ts';
+import type { Ui } from './ui.ts';
+
+export interface MountOptions {
+  /** Whether the page is the book's own: then its address, its language and its keys are too. */
+  readonly ownsPage?: boolean;
+  /** The page to open at, when the address names none. */
+  readonly place?: number;
+}
+
+export interface MountedBook {
+  /** Nothing when the book has no pages. */
+  readonly reader: Reader | undefined;
+  readonly signal: AbortSignal;
+  /** Takes all of it off the element again. */
+  destroy(): void;
+}
+
+/** Shows a book in an element that has a size; what the element holds is replaced. */
+export function mountBook(
+  root: HTMLElement,
+  config: BookConfig,
+  data: BookData | undefined,
+  options: MountOptions = {},
+): MountedBook {
+  const taken = new AbortController();
+  const settings = readSettings(config);
+  const book = readBook(config, data);
+  const say = speak(root, settings, options);
+  root.classList.add('leafcast');
+  dress(root, config);
+  const destroy = () => {
+    taken.abort();
+    root.replaceChildren();
+  };
+  const mounted = { reader: undefined, signal: taken.signal, destroy };
+  if (book.pages.length === 0) {
+    root.replaceChildren(create('p', { className: 'notice', role: 'status' }, say('empty')));
+    return mounted;
+  }
+  const stage = makeStage(root, settings);
+  const reader = new Reader(stage, book, settings, options.ownsPage ? firstPlace(book, settings) : (options.place ?? 1));
+  furnish(root, reader, say, options, taken.signal);
+  return { ...mounted, reader };
+}
+
+function speak(root: HTMLElement, settings: Settings, { ownsPage }: MountOptions): Say {
+  const language = chooseLanguage(settings.language, navigator.languages);
+  Object.assign(root, { lang: language.code, dir: language.rightToLeft ? 'rtl' : 'ltr' });
+  if (ownsPage) document.documentElement.lang = language.code;
+  return sayIn(language.texts);
+}
+
+/** It has its size before the bars around it are made, because the book is laid out in it. */
+function makeStage(root: HTMLElement, { toolbar, shows }: Settings): HTMLElement {
+  root.classList.toggle('no-bar', !toolbar);
+  root.classList.toggle('no-foot', !shows.slider && !shows.pageField);
+  root.classList.toggle('no-turns', !shows.turnButtons);
+  const stage = create('div', { className: 'stage' });
+  root.replaceChildren(create('main', {}, stage));
+  return stage;
+}
+
+function furnish(root: HTMLElement, reader: Reader, say: Say, { ownsPage }: MountOptions, signal: AbortSignal): void {
+  const { settings, book } = reader;
+  const status = create('p', { className: 'spoken', role: 'status', 'aria-live': 'polite' });
+  const names = new PageNames(book.pages, say);
+  const texts = new BookTexts(book);
+  const ui: Ui = {
+    root,
+    reader,
+    say,
+    names,
+    texts,
+    layer: new PageLayer(reader, texts, names, say),
+    thumbnails: new Thumbnails(book.pages),
+    panel: new SidePanel(root, say),
+    announce: (text) => (status.textContent = text),
+    signal,
+  };
+  const main = root.querySelector('main')!;
+  const tools = makeTools(ui);
+  root.prepend(skipLink(ui), makeToolbar(ui, settings.title || document.title, tools));
+  if (settings.shows.turnButtons) {
+    const { back, on } = makeTurnButtons(ui);
+    main.prepend(back);
+    main.append(on);
+  }
+  root.append(...foot(ui), status);
+  announcePages(ui);
+  if (settings.keyboard) listenToKeys(ui, ownsPage ? document : root, searchOpener(tools));
+  if (ownsPage) keepAddress(reader, signal);
+}
+
+function searchOpener(tools: readonly RankedTool[]): (() => void) | undefined {
+  const search = tools.find(({ tool }) => tool.classList.contains('search-tool'));
+  return search && (() => search.tool.click());
+}
+
+function skipLink({ say, layer }: Ui): HTMLElement {
+  const link = create('a', { className: 'skip', href: '#' }, say('skip'));
+  link.addEventListener('click', (event) => {
+    event.preventDefault();
+    layer.focus();
+  });
+  return link;
+}
+
+function foot(ui: Ui): HTMLElement[] {
+  const { slider, pageField } = ui.reader.settings.shows;
+  if (!slider && !pageField) return [];
+  const element = create('nav', { className: 'foot', 'aria-label': ui.say('finding') });
+  if (slider) element.append(makeSlider(ui));
+  if (pageField) element.append(makePageField(ui));
+  return [element];
+}
+
+/** Only what is new is said: a window that changes its size settles the book again. */
+function announcePages({ reader, names, announce }: Ui): void {
+  let last = '';
+  reader.on('settled', (places) => {
+    const spoken = names.spoken(places);
+    if (spoken !== last) announce(spoken);
+    last = spoken;
+  });
+}

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+import { create } from './dom.ts';
+import type { PanelContent } from './sidePanel.ts';
+import { type Hit, search } from './search.ts';
+import type { Ui } from './ui.ts';
+
+const PAUSE_MILLISECONDS = 180;
+const HITS_AT_ONCE = 40;
+
+/** Searches the text of the book without a server; what was searched for stays for the next time. */
+export function makeSearchPanel(ui: Ui): () => PanelContent {
+  let query = '';
+  return () => {
+    const panel = new SearchPanel(ui, query, (changed) => (query = changed));
+    return { element: panel.element, focus: () => panel.focus(), closed: () => ui.layer.mark([]) };
+  };
+}
+
+class SearchPanel {
+  private readonly field = create('input', { type: 'search', className: 'query' });
+  private readonly count = create('p', { className: 'count' });
+  private readonly list = create('ol', { className: 'hits' });
+  private readonly more: HTMLButtonElement;
+  readonly element: HTMLElement;
+  private readonly hits: Hit[] = [];
+  private run = 0; // of the search that is under way; older ones stop
+  private wanted = HITS_AT_ONCE;
+  private timer = 0;
+
+  constructor(
+    private readonly ui: Ui,
+    query: string,
+    private readonly changed: (query: string) => void,
+  ) {
+    this.field.setAttribute('aria-label', ui.say('searchFor'));
+    this.field.placeholder = ui.say('searchFor');
+    this.field.value = query;
+    this.more = create('button', { type: 'button', className: 'plain', hidden: true }, ui.say('moreHits'));
+    this.more.addEventListener('click', () => this.showMore());
+    const form = create('form', { role: 'search', className: 'search' }, this.field, this.count);
+    form.addEventListener('submit', (event) => {
+      event.preventDefault();
+      void this.search().then(() => this.list.querySelector('button')?.focus());
+    });
+    this.field.addEventListener('input', () => {
+      clearTimeout(this.timer);
+      this.timer = window.setTimeout(() => void this.search(), PAUSE_MILLISECONDS);
+    });
+    this.element = create('div', { className: 'panel-body searching' }, form, this.list, this.more);
+    if (query) void this.search();
+  }
+
+  focus(): void {
+    this.field.focus();
+    this.field.select();
+  }
+
+  private async search(): Promise<void> {
+    clearTimeout(this.timer);
+    const run = ++this.run;
+    this.changed(this.field.value);
+    this.hits.length = 0;
+    this.wanted = HITS_AT_ONCE;
+    this.list.replaceChildren();
+    this.show();
+    for await (const hits of search(this.field.value, this.ui.texts.all())) {
+      // Another query was typed, or the panel was left.
+      if (run !== this.run || (run > 1 && !this.element.isConnected)) return;
+      this.hits.push(...hits);
+      if (hits.length > 0) this.show();
+    }
+    if (run === this.run) this.tell();
+  }
+
+  private tell(): void {
+    const { say, announce, layer } = this.ui;
+    const { length } = this.hits;
+    const found = length === 0 ? say('noHits') : length === 1 ? say('hit') : say('hits', length);
+    this.count.textContent = this.field.value.trim() ? found : '';
+    announce(this.count.textContent);
+    layer.mark(this.hits);
+  }
+
+  private show(): void {
+    const from = this.list.children.length;
+    this.list.append(...this.hits.slice(from, this.wanted).map((hit) => this.entry(hit)));
+    this.more.hidden = this.list.children.length >= this.hits.length;
+    this.count.textContent = this.hits.length > 0 ? this.ui.say('hits', this.hits.length) : '';
+  }
+
+  private showMore(): void {
+    const from = this.list.children.length;
+    this.wanted += HITS_AT_ONCE;
+    this.show();
+    this.list.children[from]?.querySelector('button')?.focus();
+  }
+
+  private entry(hit: Hit): HTMLElement {
+    const { reader, names, say, layer, panel } = this.ui;
+    const page = create('span', { className: 'number' }, say('page', names.label(hit.place)));
+    const context = create('span', { className: 'context' }, `${hit.before} `, create('mark', {}, hit.match), ` ${hit.after}`);
+    const button = create('button', { type: 'button' }, page, context);
+    button.addEventListener('click', () => {
+      this.list.querySelector('[aria-current]')?.removeAttribute('aria-current');
+      button.setAttribute('aria-current', 'true');
+      layer.mark(this.hits, hit);
+      panel.makeWay();
+      if (reader.places.includes(hit.place)) layer.focus(hit.place);
+      else reader.goTo(hit.place);
+    });
+    return create('li', {}, button);
+  }
+}

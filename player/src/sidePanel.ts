@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+import { create } from './dom.ts';
+import { icon } from './icons.ts';
+import type { Say } from './texts.ts';
+
+export interface PanelContent {
+  readonly element: HTMLElement;
+  /** What takes the focus; the panel itself when there is nothing to. */
+  readonly focus?: () => void;
+  /** Called once the panel is in the document. */
+  readonly shown?: () => void;
+  /** Called when a reader is done with it. */
+  readonly closed?: () => void;
+}
+
+interface OpenPanel {
+  readonly button: HTMLElement;
+  readonly element: HTMLElement;
+  readonly content: PanelContent;
+  readonly opener: HTMLElement | undefined;
+}
+
+/** Narrower windows than this give a panel all of their width. */
+const NARROW = '(max-width: 719px)';
+
+/** The place beside the book for one panel at a time, made when it is opened and dropped after it. */
+export class SidePanel {
+  private open: OpenPanel | undefined;
+
+  constructor(
+    private readonly root: HTMLElement,
+    private readonly say: Say,
+  ) {}
+
+  toggle(button: HTMLElement, title: string, build: () => PanelContent): void {
+    if (this.open?.button === button) return void this.close();
+    const opener = this.open?.opener ?? focused();
+    this.remove();
+    const content = build();
+    const element = this.frame(title, content.element);
+    this.open = { button, element, content, opener };
+    button.setAttribute('aria-expanded', 'true');
+    this.root.querySelector('main')!.before(element);
+    this.root.dataset.panel = 'open';
+    content.shown?.();
+    if (content.focus) content.focus();
+    else element.focus();
+  }
+
+  /** Answers whether there was one. */
+  close(): boolean {
+    if (!this.open) return false;
+    const { opener, content } = this.open;
+    this.remove();
+    content.closed?.();
+    opener?.focus();
+    return true;
+  }
+
+  /** Something was chosen in it: makes way for the page where it covers that. */
+  makeWay(): void {
+    if (matchMedia(NARROW).matches) this.remove();
+  }
+
+  private remove(): void {
+    this.open?.element.remove();
+    this.open?.button.setAttribute('aria-expanded', 'false');
+    this.open = undefined;
+    delete this.root.dataset.panel;
+  }
+
+  private frame(title: string, body: HTMLElement): HTMLElement {
+    const close = create('button', { type: 'button', className: 'tool', title: this.say('close'), 'aria-label': this.say('close') });
+    close.append(icon('close'));
+    close.addEventListener('click', () => this.close());
+    const head = create('div', { className: 'panel-head' }, create('h2', {}, title), close);
+    const element = create('aside', { className: 'panel', 'aria-label': title, tabIndex: -1 }, head, body);
+    element.addEventListener('keydown', (event) => {
+      if (event.key !== 'Escape') return;
+      event.stopPropagation();
+      this.close();
+    });
+    return element;
+  }
+}
+
+const focused = (): HTMLElement | undefined =>
+  document.activeElement instanceof HTMLElement ? document.activeElement : undefined;

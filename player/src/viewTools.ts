@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+import type { Icon } from './icons.ts';
+import type { Mode } from './layout.ts';
+import type { Texts } from './texts/english.ts';
+import { changeTool, makeTool, setPressed } from './tool.ts';
+import type { Ui } from './ui.ts';
+
+const ZOOM_STEPS = [0.5, 0.75, 1, 1.5, 2, 3, 4, 6];
+
+export function zoomBy(ui: Ui, direction: 1 | -1): void {
+  const { scale } = ui.reader;
+  const beyond = ZOOM_STEPS.filter((step) => (step - scale) * direction > 0.01);
+  const next = direction > 0 ? beyond[0] : beyond[beyond.length - 1];
+  if (next) ui.reader.zoomTo(next);
+}
+
+export function makeZoomTools(ui: Ui): HTMLButtonElement[] {
+  const { reader, say } = ui;
+  const zoomOut = makeTool('zoomOut', say('zoomOut'), () => zoomBy(ui, -1));
+  const fit = makeTool('fit', say('fit'), () => reader.zoomTo(1));
+  const zoomIn = makeTool('zoomIn', say('zoomIn'), () => zoomBy(ui, 1));
+  const show = (scale: number) => {
+    zoomOut.setAttribute('aria-disabled', String(scale <= ZOOM_STEPS[0]!));
+    fit.setAttribute('aria-disabled', String(scale === 1));
+    zoomIn.setAttribute('aria-disabled', String(scale >= ZOOM_STEPS[ZOOM_STEPS.length - 1]!));
+  };
+  reader.on('zoomed', ({ scale }) => show(scale));
+  show(1);
+  return [zoomOut, zoomIn, fit];
+}
+
+const VIEWS: readonly { readonly mode: Mode; readonly picture: Icon; readonly name: keyof Texts }[] = [
+  { mode: 'auto', picture: 'auto', name: 'viewAuto' },
+  { mode: 'single', picture: 'single', name: 'viewSingle' },
+  { mode: 'double', picture: 'double', name: 'viewDouble' },
+];
+
+/** Each press shows the next way of looking at the pages. */
+export function makeViewMode({ reader, say, announce }: Ui): HTMLButtonElement {
+  let at = Math.max(VIEWS.findIndex(({ mode }) => mode === reader.settings.mode), 0);
+  const view = () => VIEWS[at]!;
+  const tool: HTMLButtonElement = makeTool(view().picture, say(view().name), () => {
+    at = (at + 1) % VIEWS.length;
+    changeTool(tool, view().picture, say(view().name));
+    reader.setMode(view().mode);
+    announce(say(view().name));
+  });
+  return tool;
+}
+
+/** On from the start for those who have asked their system for it. */
+export function makeMotionSwitch({ reader, say, signal }: Ui): HTMLButtonElement {
+  const preference = matchMedia('(prefers-reduced-motion: reduce)');
+  let isReduced = preference.matches;
+  const reduce = (reduced: boolean) => {
+    isReduced = reduced;
+    reader.setReducedMotion(reduced);
+    setPressed(tool, reduced);
+  };
+  const tool = makeTool('motion', say('lessMotion'), () => reduce(!isReduced));
+  reduce(isReduced);
+  preference.addEventListener('change', ({ matches }) => reduce(matches), { signal });
+  return tool;
+}
+
+export const canBeFullScreen = (): boolean => document.fullscreenEnabled === true;
+
+export function toggleFullScreen(root: HTMLElement): void {
+  const change = document.fullscreenElement ? document.exitFullscreen() : root.requestFullscreen();
+  change.catch(() => {}); // the browser may refuse, and says so itself
+}
+
+export function makeFullScreen({ root, say, signal }: Ui): HTMLButtonElement {
+  const tool = makeTool('fullScreen', say('fullScreen'), () => toggleFullScreen(root));
+  setPressed(tool, false);
+  const show = () => {
+    const isFull = document.fullscreenElement !== null;
+    setPressed(tool, isFull);
+    changeTool(tool, isFull ? 'window' : 'fullScreen', say('fullScreen'));
+  };
+  document.addEventListener('fullscreenchange', show, { signal });
+  return tool;
+}
