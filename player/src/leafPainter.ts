@@ -30,6 +30,8 @@ const SHADE_OF_BACK = 0.05;
 const SHINE = 0.16;
 const SHINE_ANGLE = 2.45; // radians; where the roll begins to come down
 const SHADING_STOPS = 6;
+/** Of the leaf's width: a roll that is smaller is all but on the ground, and its shade goes with it. */
+const LANDING_RADIUS = 0.05;
 /** Neighbouring strips overlap by so much, or the ground shines through between them. */
 const SEAM = 0.7;
 
@@ -52,10 +54,13 @@ export function paintLeaf(
   const perQuarter = curl.radius > 0 ? quality.stripsPerQuarter : 0;
   const rolled = perQuarter > 0 ? curl : sharp(curl);
   const all = strips(rolled, leaf, perQuarter);
+  const shade = Math.min(1, curl.radius / (LANDING_RADIUS * leaf.width));
   // The back lies over the front, so that is finished first.
   for (const showsBack of [false, true]) {
     for (const strip of all) if (strip.showsBack === showsBack) fillStrip(context, leaf, rolled, strip, showsBack ? back : front);
+    context.globalAlpha = shade;
     paintShading(context, leaf, rolled, all, showsBack);
+    context.globalAlpha = 1;
   }
 }
 
