@@ -226,6 +226,12 @@ export class BookView {
     return { width: this.host.clientWidth, height: this.host.clientHeight };
   }
 
+  /** The host's padding: the book rests inside it, and leaves in the air and a zoomed book may lie over it. */
+  private margin(): Size {
+    const { paddingLeft, paddingTop } = getComputedStyle(this.host);
+    return { width: parseFloat(paddingLeft), height: parseFloat(paddingTop) };
+  }
+
   private placesAt(spread: number): number[] {
     const shown = this.spreads[spread];
     return shown ? placesOf(shown) : [];
@@ -234,7 +240,7 @@ export class BookView {
   private arrangeAt(place: number): void {
     const space = this.space();
     if (!space.width || !space.height) return;
-    this.layout = layoutBook(space, this.book.shape, this.mode, this.options.rightToLeft);
+    this.layout = layoutBook(space, this.margin(), this.book.shape, this.mode, this.options.rightToLeft);
     this.spreads = arrange({
       pageCount: this.book.pages.length,
       double: this.layout.double,

@@ -14,8 +14,8 @@ export function listenToKeys(ui: Ui, target: HTMLElement | Document, openSearch:
 
 function answer(event: KeyboardEvent, actions: Actions): void {
   if (event.defaultPrevented || event.altKey || event.ctrlKey || event.metaKey || isField(event.target)) return;
-  // Lists and long texts scroll and choose by the same keys.
-  if (event.target instanceof Element && event.target.closest('dialog, .panel, .menu') && event.key !== 'Escape') return;
+  // Lists and long texts scroll and choose by the same keys, and dialogs close themselves.
+  if (event.target instanceof Element && event.target.closest('dialog, .panel, .menu')) return;
   const action = actions[event.key.length === 1 ? event.key.toLowerCase() : event.key];
   if (!action) return;
   event.preventDefault();

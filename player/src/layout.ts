@@ -15,9 +15,14 @@ export type Mode = 'auto' | 'single' | 'double';
 /** Two pages may be this much smaller than one alone before one alone is better. */
 const SMALLEST_SPREAD = 0.6;
 
-export function layoutBook(space: Size, shape: number, mode: Mode, rightToLeft: boolean): Layout {
-  const double = mode === 'double' || (mode === 'auto' && suitsSpread(space, shape));
-  const free = fit(double ? 2 * shape : shape, space);
+/** In the middle of a space, away from its edges by the margin. */
+export function layoutBook(space: Size, margin: Size, shape: number, mode: Mode, rightToLeft: boolean): Layout {
+  const inner = {
+    width: Math.max(space.width - 2 * margin.width, 1),
+    height: Math.max(space.height - 2 * margin.height, 1),
+  };
+  const double = mode === 'double' || (mode === 'auto' && suitsSpread(inner, shape));
+  const free = fit(double ? 2 * shape : shape, inner);
   // Whole pixels, so that a leaf in the air covers the one at rest exactly.
   const leaf = { width: Math.floor(double ? free.width / 2 : free.width), height: Math.floor(free.height) };
   const width = double ? 2 * leaf.width : leaf.width;

@@ -8,7 +8,7 @@ export interface RankedTool {
   readonly rank: number; // those with low ranks stay in the bar when it is narrow
 }
 
-const LEAST_TITLE_PIXELS = 96;
+const MOST_OF_TITLE = 0.34; // of the bar's width; more only where tools leave it
 
 /** Title, logo and tools. Tools that do not fit go into a menu at the end of the bar. */
 export function makeToolbar(ui: Ui, title: string, tools: readonly RankedTool[]): HTMLElement {
@@ -29,7 +29,8 @@ function roomFor(header: HTMLElement, wanted: number): number {
   const style = getComputedStyle(header);
   const tool = parseFloat(style.getPropertyValue('--tool')) || 40;
   const logoWidth = header.querySelector('.logo')?.clientWidth ?? 0;
-  const free = header.clientWidth - parseFloat(style.paddingLeft) * 2 - logoWidth - LEAST_TITLE_PIXELS;
+  const title = Math.min(header.querySelector('h1')!.scrollWidth + 32, header.clientWidth * MOST_OF_TITLE);
+  const free = header.clientWidth - parseFloat(style.paddingLeft) * 2 - logoWidth - title;
   return Math.min(Math.max(Math.floor(free / tool), 1), wanted);
 }
 

@@ -6,6 +6,8 @@ import { hasArrived, springTo } from '../src/spring.ts';
 import { arrange, placesOf, spreadOf } from '../src/spreads.ts';
 import { keptInSight, MOST_SCALE, NO_ZOOM, panBy, zoomAbout } from '../src/zoom.ts';
 
+const MARGIN = { width: 20, height: 10 };
+
 const spreadsOf = (pageCount: number, options: { single?: boolean; noCover?: boolean; wide?: number[] } = {}) =>
   arrange({
     pageCount,
@@ -43,14 +45,15 @@ test('the book is as large as its space allows, in whole pixels, about its hinge
   for (const space of [{ width: 1200, height: 700 }, { width: 701, height: 1100 }, { width: 300, height: 500 }])
     for (const mode of ['auto', 'single', 'double'] as const)
       for (const rightToLeft of [false, true]) {
-        const { book, leaf, double, hingeX } = layoutBook(space, 0.77, mode, rightToLeft);
-        assert.ok(book.x >= 0 && book.y >= 0 && book.width <= space.width && book.height <= space.height);
-        assert.ok(book.width > space.width - 4 || book.height > space.height - 4);
+        const { book, leaf, double, hingeX } = layoutBook(space, MARGIN, 0.77, mode, rightToLeft);
+        assert.ok(book.x >= MARGIN.width && book.x + book.width <= space.width - MARGIN.width);
+        assert.ok(book.y >= MARGIN.height && book.y + book.height <= space.height - MARGIN.height);
+        assert.ok(book.width > space.width - 44 || book.height > space.height - 24, 'no more is left free');
         for (const value of [book.x, book.y, leaf.width, leaf.height]) assert.equal(value, Math.round(value));
         assert.equal(hingeX, double ? book.x + leaf.width : rightToLeft ? book.x + leaf.width : book.x);
       }
-  assert.equal(layoutBook({ width: 1200, height: 700 }, 0.77, 'auto', false).double, true);
-  assert.equal(layoutBook({ width: 800, height: 1100 }, 0.77, 'auto', false).double, false);
+  assert.equal(layoutBook({ width: 1200, height: 700 }, MARGIN, 0.77, 'auto', false).double, true);
+  assert.equal(layoutBook({ width: 800, height: 1100 }, MARGIN, 0.77, 'auto', false).double, false);
 });
 
 test('a spring reaches its target without passing it, in few frames as in many', () => {
