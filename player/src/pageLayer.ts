@@ -183,9 +183,16 @@ export class PageLayer {
 
   private focusAfterJump(): void {
     if (this.focusWanted === 0) return;
-    this.focus(this.shown.has(this.focusWanted) ? this.focusWanted : this.reader.place);
+    if (isFocusFree(this.element)) this.focus(this.shown.has(this.focusWanted) ? this.focusWanted : this.reader.place);
     this.focusWanted = 0;
   }
+}
+
+/** A book inside another page takes the focus from its own controls only. */
+function isFocusFree(element: HTMLElement): boolean {
+  const focused = document.activeElement;
+  const isOurs = focused === null || focused === document.body || focused.closest('.leafcast') === element.closest('.leafcast');
+  return document.hasFocus() && isOurs;
 }
 
 /** The words that lie mostly inside a link; they are its name. */
