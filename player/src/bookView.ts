@@ -22,6 +22,7 @@ export interface ViewOptions {
   readonly paper: Paper;
   readonly hardCovers: boolean;
   readonly pageEdges: boolean;
+  readonly wheelTurns: boolean;
 }
 
 export interface ViewEvents {

@@ -137,6 +137,8 @@ export class Hands implements GestureHandler {
   }
 
   private onWheel(event: WheelEvent): void {
+    // What is not used here scrolls the page around the book.
+    if (!event.ctrlKey && this.view.zoom.scale <= 1 && !this.view.options.wheelTurns) return;
     event.preventDefault();
     const unit = event.deltaMode === WheelEvent.DOM_DELTA_LINE ? LINE_PIXELS : 1;
     const { left, top } = this.view.host.getBoundingClientRect();

@@ -216,7 +216,7 @@ describe('a published book', () => {
       thumbnails: ['button', 'Page overview'], contents: ['button', 'Contents'], search: ['button', 'Search'],
       textView: ['button', 'Text of the book'], zoom: ['button', 'Zoom in'], viewMode: ['button', 'View: automatic'],
       print: ['button', 'Print'], share: ['button', 'Share'], autoTurn: ['button', 'Turn pages automatically'],
-      sound: ['button', 'Sound of turning pages'], fullScreen: ['button', 'Full screen'],
+      sound: ['button', 'Sound of turning pages'], motion: ['button', 'Less motion'], help: ['button', 'Keys'], fullScreen: ['button', 'Full screen'],
     };
     const keyOf = (control) => (control === 'fullScreen' ? 'fullScreenButtonVisible' : `${control}Visible`);
     const counts = async (page) => {
@@ -258,6 +258,14 @@ describe('a published book', () => {
       'no keys': [{ keyboardControl: 'NO' }, async (page) => {
         await page.keyboard.press('ArrowRight');
         assert.equal(await page.locator('.page-field .field').inputValue(), 'Cover');
+      }],
+      'no turns by the wheel': [{ wheelTurns: 'NO' }, async (page) => {
+        await page.mouse.move(640, 400);
+        const turned = await turnWith(page, async () => {
+          await page.mouse.wheel(0, 240);
+          await page.keyboard.press('ArrowRight');
+        });
+        assert.deepEqual(turned, [2, 3]);
       }],
       'no links and text': [{ readerData: 'NO' }, async (page) => {
         await turnWith(page, () => page.keyboard.press('ArrowRight'));

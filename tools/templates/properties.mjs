@@ -79,6 +79,8 @@ const READING = [
   bool('readerData', 'Reader data', 'Gives the reader the page list, the links, the contents and the text of the document. Switched off, the pages are plain pictures, and only JPEG pictures of pages that count from 1 without a gap are found.', 'YES', 'Links and text'),
   button('searchVisible', 'Search', 'Panel that finds words in the text of the document.'),
   button('textViewVisible', 'Text view', 'Button that shows the text of the document without its pages.'),
+  button('motionVisible', 'Less motion', 'Switch that lets pages fade instead of turning, on from the start for readers who ask their system for less motion.'),
+  button('helpVisible', 'Keys', 'Button that shows which keys do what.'),
   button('zoomVisible', 'Zoom', 'Buttons that enlarge the pages. Pinching and double tapping stay possible when it is switched off.'),
 ];
 
