@@ -187,8 +187,9 @@ export class BookView {
     this.turning.drag(leaf, pointer);
   }
 
-  release(leaf: FlyingLeaf, velocity: Point): void {
-    this.turning.release(leaf, velocity);
+  /** To the side given, or else where it falls by itself. */
+  release(leaf: FlyingLeaf, velocity: Point, target?: 0 | 1): void {
+    this.turning.release(leaf, velocity, target);
     this.events.turned(this.places);
   }
 

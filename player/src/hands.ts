@@ -9,6 +9,7 @@ const GRAB_ZONE = 0.2;
 /** A leaf goes twice its width while a finger crosses the page once. */
 const SWIPE_GAIN = 2;
 const SWIPE_PIXELS = 48;
+const SWIPE_SPEED = 200; // CSS pixels a second
 const DOUBLE_TAP_SCALE = 2.5;
 const WHEEL_ZOOM = 0.0022; // of the scale's logarithm, for a pixel of the wheel
 const WHEEL_TURN = 60; // pixels of the wheel that turn a page
@@ -123,12 +124,27 @@ export class Hands implements GestureHandler {
     if (!leaf) return undefined;
     const start = this.view.leafPoint(from);
     const follow = (by: Point): Point => ({ x: by.x * gain, y: by.y });
-    const home = step > 0 ? 0 : 1;
+    const [home, away] = step > 0 ? ([0, 1] as const) : ([1, 0] as const);
+    let moved = 0;
     return {
-      move: (to) => this.view.drag(leaf, add(at, follow(subtract(this.view.leafPoint(to), start)))),
-      end: (velocity) => this.view.release(leaf, follow(this.inLeaf(velocity))),
+      move: (to) => {
+        const by = subtract(this.view.leafPoint(to), start);
+        moved = by.x;
+        this.view.drag(leaf, add(at, follow(by)));
+      },
+      end: (velocity) => {
+        const thrown = this.inLeaf(velocity);
+        const isSwipe = gain > 1 && this.isSwipe(moved * -step, thrown.x * -step);
+        this.view.release(leaf, follow(thrown), isSwipe ? away : undefined);
+      },
       cancel: () => this.view.drop(leaf, home),
     };
+  }
+
+  /** A short stroke that still moves when the finger leaves means the page to turn. In leaf heights. */
+  private isSwipe(moved: number, velocity: number): boolean {
+    const { leafPixels } = this.view;
+    return moved * leafPixels > SWIPE_PIXELS && velocity * leafPixels > SWIPE_SPEED;
   }
 
   private inLeaf(velocity: Point): Point {

@@ -89,8 +89,9 @@ export class Turning {
   }
 
   /** Lets a leaf go with a velocity in its heights a second. */
-  release(leaf: FlyingLeaf, velocity: Point): void {
-    leaf.target = leaf.mover.release(velocity);
+  release(leaf: FlyingLeaf, velocity: Point, target?: 0 | 1): void {
+    const falls = leaf.mover.release(velocity);
+    leaf.target = target ?? falls;
     leaf.held = false;
     this.wake();
   }
