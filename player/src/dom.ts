@@ -17,19 +17,6 @@ export function create<Name extends keyof HTMLElementTagNameMap>(
   return element;
 }
 
-export interface Closable {
-  close(): void;
-}
-
 /** Whether keys typed now are meant for a field. */
 export const isField = (target: EventTarget | null): boolean =>
   target instanceof Element && target.closest('input, textarea, select, [contenteditable]') !== null;
-
-/** Listens until the book is taken down. */
-export function listen<Name extends keyof DocumentEventMap>(
-  name: Name,
-  listener: (event: DocumentEventMap[Name]) => void,
-  signal: AbortSignal,
-): void {
-  document.addEventListener(name, listener, { signal });
-}

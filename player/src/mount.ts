@@ -18,6 +18,7 @@ import { makeToolbar, type RankedTool } from './toolbar.ts';
 import { makeTools } from './tools.ts';
 import { makeTurnButtons } from './turnButtons.ts';
 import type { Ui } from './ui.ts';
+import { followMotionPreference } from './viewTools.ts';
 
 export interface MountOptions {
   /** Whether the page is the book's own: then its address, its language and its keys are too. */
@@ -69,12 +70,14 @@ function speak(root: HTMLElement, settings: Settings, { ownsPage }: MountOptions
   return sayIn(language.texts);
 }
 
+let stageCount = 0;
+
 /** It has its size before the bars around it are made, because the book is laid out in it. */
 function makeStage(root: HTMLElement, { toolbar, shows }: Settings): HTMLElement {
   root.classList.toggle('no-bar', !toolbar);
   root.classList.toggle('no-foot', !shows.slider && !shows.pageField);
   root.classList.toggle('no-turns', !shows.turnButtons);
-  const stage = create('div', { className: 'stage' });
+  const stage = create('div', { className: 'stage', id: `leafcast-stage-${++stageCount}` });
   root.replaceChildren(create('main', {}, stage));
   return stage;
 }
@@ -98,7 +101,8 @@ function furnish(root: HTMLElement, reader: Reader, say: Say, { ownsPage }: Moun
   };
   const main = root.querySelector('main')!;
   const tools = makeTools(ui);
-  root.prepend(skipLink(ui), makeToolbar(ui, settings.title || document.title, tools));
+  const stage = root.querySelector('.stage')!;
+  root.prepend(skipLink(ui, stage.id), makeToolbar(ui, settings.title || document.title || say('pages'), tools));
   if (settings.shows.turnButtons) {
     const { back, on } = makeTurnButtons(ui);
     main.prepend(back);
@@ -106,6 +110,7 @@ function furnish(root: HTMLElement, reader: Reader, say: Say, { ownsPage }: Moun
   }
   root.append(...foot(ui), status);
   announcePages(ui);
+  followMotionPreference(reader, signal);
   if (settings.keyboard) listenToKeys(ui, ownsPage ? document : root, searchOpener(tools));
   if (ownsPage) keepAddress(reader, signal);
 }
@@ -115,8 +120,8 @@ function searchOpener(tools: readonly RankedTool[]): (() => void) | undefined {
   return search && (() => search.tool.click());
 }
 
-function skipLink({ say, layer }: Ui): HTMLElement {
-  const link = create('a', { className: 'skip', href: '#' }, say('skip'));
+function skipLink({ say, layer }: Ui, target: string): HTMLElement {
+  const link = create('a', { className: 'skip', href: `#${target}` }, say('skip'));
   link.addEventListener('click', (event) => {
     event.preventDefault();
     layer.focus();

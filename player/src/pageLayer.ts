@@ -33,6 +33,7 @@ export class PageLayer {
   private marks: readonly Mark[] = [];
   private chosen: Mark | undefined;
   private focusWanted = 0;
+  private readonly pictured = new Set<number>();
 
   constructor(
     private readonly reader: Reader,
@@ -42,7 +43,11 @@ export class PageLayer {
   ) {
     reader.sheet.append(this.element);
     reader.on('placed', (pages) => this.place(pages));
-    reader.on('pictured', () => this.showFailures());
+    reader.on('pictured', (place) => {
+      this.pictured.add(place);
+      this.showFailures();
+      this.addTexts();
+    });
     reader.on('jumped', ({ to }) => (this.focusWanted = to));
     reader.on('settled', () => {
       this.focusAfterJump();
@@ -96,8 +101,9 @@ export class PageLayer {
     return shown;
   }
 
-  /** Once nothing moves, because the text is neither seen nor urgent. */
+  /** Once the pictures are there, because the text is neither seen nor urgent. */
   private addTexts(): void {
+    for (const place of this.shown.keys()) if (!this.pictured.has(place) && !this.reader.hasFailed(place)) return;
     for (const [place, page] of this.shown)
       if (page.element.dataset.text === undefined) {
         page.element.dataset.text = '';

@@ -5,7 +5,7 @@ import { loadSource } from './pictures.ts';
 const MOST_HELD = 80;
 const AT_ONCE = 2;
 /** Pixels; wide enough for a screen with two pixels to a CSS pixel. */
-export const THUMBNAIL_WIDTH = 208;
+const THUMBNAIL_WIDTH = 208;
 
 /** Small pictures of pages, made of the pages' own files. What was asked for last comes first. */
 export class Thumbnails {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 import type { Icon } from './icons.ts';
 import type { Mode } from './layout.ts';
+import type { Reader } from './reader.ts';
 import type { Texts } from './texts/english.ts';
 import { changeTool, makeTool, setPressed } from './tool.ts';
 import type { Ui } from './ui.ts';
@@ -48,18 +49,25 @@ export function makeViewMode({ reader, say, announce }: Ui): HTMLButtonElement {
   return tool;
 }
 
-/** On from the start for those who have asked their system for it. */
+const asksForLessMotion = (): MediaQueryList => matchMedia('(prefers-reduced-motion: reduce)');
+
+/** Does what readers have asked their system for, whether or not there is a switch. */
+export function followMotionPreference(reader: Reader, signal: AbortSignal): void {
+  const preference = asksForLessMotion();
+  reader.setReducedMotion(preference.matches);
+  preference.addEventListener('change', ({ matches }) => reader.setReducedMotion(matches), { signal });
+}
+
 export function makeMotionSwitch({ reader, say, signal }: Ui): HTMLButtonElement {
-  const preference = matchMedia('(prefers-reduced-motion: reduce)');
+  const preference = asksForLessMotion();
   let isReduced = preference.matches;
-  const reduce = (reduced: boolean) => {
-    isReduced = reduced;
-    reader.setReducedMotion(reduced);
-    setPressed(tool, reduced);
-  };
-  const tool = makeTool('motion', say('lessMotion'), () => reduce(!isReduced));
-  reduce(isReduced);
-  preference.addEventListener('change', ({ matches }) => reduce(matches), { signal });
+  const show = (reduced: boolean) => setPressed(tool, (isReduced = reduced));
+  const tool = makeTool('motion', say('lessMotion'), () => {
+    show(!isReduced);
+    reader.setReducedMotion(isReduced);
+  });
+  show(isReduced);
+  preference.addEventListener('change', ({ matches }) => show(matches), { signal });
   return tool;
 }
 
