@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 import type { TextLine, WordBox } from './book.ts';
 import type { PageText } from './bookTexts.ts';
+import { isBroken } from './paragraphs.ts';
 
 /** A place in the text that matches, with the words around it as they are printed. */
 export interface Hit {
@@ -62,15 +63,13 @@ function foldedText(lines: readonly TextLine[]): FoldedText {
   let folded = '';
   words.forEach((word, index) => {
     starts.push(folded.length);
-    const joined = isBroken(word, words[index + 1]);
-    folded += joined ? fold(word.text.slice(0, -1)) : `${fold(word.text)} `;
+    folded += isCut(word, words[index + 1]) ? fold(word.text.slice(0, -1)) : `${fold(word.text)} `;
   });
   return { folded, starts, words };
 }
 
-/** Whether a hyphen at the end of a line cuts the word in two. */
-const isBroken = (word: Word, next: Word | undefined): boolean =>
-  next !== undefined && next.line !== word.line && /\p{L}[-\u00ad‐]$/u.test(word.text) && /^\p{Ll}/u.test(next.text);
+const isCut = (word: Word, next: Word | undefined): boolean =>
+  next !== undefined && next.line !== word.line && isBroken(word.text, next.text);
 
 function hitAt(place: number, text: FoldedText, from: number, to: number): Hit {
   const first = wordAt(text.starts, from);

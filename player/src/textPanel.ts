@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 import { create } from './dom.ts';
+import { paragraphsOf } from './paragraphs.ts';
 import type { PanelContent } from './sidePanel.ts';
 import type { Ui } from './ui.ts';
 
-const PAGES_AT_ONCE = 20;
+const PAGES_AT_ONCE = 10;
 
 /** The book as plain text, in sections of a few pages around the open one. */
 export function textPanel(ui: Ui): PanelContent {
@@ -38,14 +39,16 @@ export function textPanel(ui: Ui): PanelContent {
   return { element, focus: () => reveal(reader.place) };
 }
 
-function section({ names, say, texts }: Ui, place: number): HTMLElement {
+function section({ reader, names, say, texts }: Ui, place: number): HTMLElement {
   const heading = create('h3', { tabIndex: -1 }, say('page', names.label(place)));
-  const words = create('p');
+  const element = create('section', {}, heading);
+  const { width, height } = reader.book.pages[place - 1]!;
   void texts.linesOf(place).then((lines) => {
-    words.textContent = lines.map(({ text }) => text).join('\n') || say('noText');
-    words.classList.toggle('none', lines.length === 0);
+    const paragraphs = paragraphsOf(lines, height > 0 ? width / height : reader.book.shape);
+    element.append(...paragraphs.map((text) => create('p', {}, text)));
+    if (paragraphs.length === 0) element.append(create('p', { className: 'none' }, say('noText')));
   });
-  return create('section', {}, heading, words);
+  return element;
 }
 
 const range = (from: number, to: number): number[] => Array.from({ length: to - from + 1 }, (_, index) => from + index);
