@@ -8,7 +8,6 @@ import { mkdirSync, readFileSync } from 'node:fs';
 import { join } from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { gzipSync } from 'node:zlib';
-import { build } from 'esbuild';
 
 const PLAYER = fileURLToPath(new URL('../player/', import.meta.url));
 const LICENCE = '/* Leafcast player. SPDX-License-Identifier: MIT */';
@@ -22,6 +21,10 @@ const PARTS = [
   { file: 'player.css', entry: 'css/player.css', mostGzipped: 8 * KILOBYTE, charset: 'utf8' },
 ];
 
+const { build } = await import('esbuild').catch(() => {
+  console.error('The player cannot be bundled without esbuild: run "tools/setup build" first.');
+  process.exit(1);
+});
 const [folder] = process.argv.slice(2);
 if (!folder) throw new Error('usage: node tools/build-player.mjs FOLDER');
 mkdirSync(folder, { recursive: true });
