@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 import { makeCanvas, putCanvas } from './canvas.ts';
 import type { Curl } from './curl.ts';
-import type { Box, Size } from './geometry.ts';
+import type { Box } from './geometry.ts';
 import type { Quality } from './governor.ts';
 import type { Layout } from './layout.ts';
 import { type Ground, type LeafFaces, paintLeaf } from './leafPainter.ts';
@@ -28,9 +28,9 @@ export class AirView {
   }
 
   /** The lowest leaf first. */
-  paint(leaves: readonly LeafInTheAir[], layout: Layout, space: Size, rightToLeft: boolean, quality: Quality): void {
+  paint(leaves: readonly LeafInTheAir[], layout: Layout, space: Box, rightToLeft: boolean, quality: Quality): void {
     const ratio = pixelRatio(quality);
-    const room = overlap(roomAround(layout), { x: 0, y: 0, ...space }) ?? layout.book;
+    const room = overlap(roomAround(layout), space) ?? layout.book;
     putCanvas(this.element, room, ratio);
     this.element.hidden = false;
     const context = this.element.getContext('2d')!;

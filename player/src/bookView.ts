@@ -67,6 +67,8 @@ export class BookView {
   private turning!: Turning;
   private mode: Mode;
   private zoomed = NO_ZOOM;
+  /** A closed book lies in the middle: how far its sheet is moved for that, in CSS pixels. */
+  private shift = 0;
 
   constructor(
     readonly host: HTMLElement,
@@ -134,7 +136,7 @@ export class BookView {
     const turned = this.reducedMotion
       ? this.fadeTo(clamp(this.turning.destination + count, 0, this.spreads.length - 1))
       : this.turning.turn(count);
-    if (turned) this.events.turned(this.places);
+    if (turned) this.tellTurned();
     return turned;
   }
 
@@ -142,7 +144,7 @@ export class BookView {
     const spread = spreadOf(this.spreads, place);
     if (this.reducedMotion) this.fadeTo(spread);
     else this.turning.jump(spread);
-    this.events.turned(this.places);
+    this.tellTurned();
   }
 
   setMode(mode: Mode): void {
@@ -152,10 +154,12 @@ export class BookView {
 
   setZoom(zoom: Zoom): void {
     const space = this.space();
-    this.zoomed = keptInSight(zoom, this.layout.book, space);
-    const { scale, offset } = this.zoomed;
-    this.sheet.style.transform = scale === 1 ? '' : `translate(${offset.x}px, ${offset.y}px) scale(${scale})`;
-    if (scale > 1) this.sharp.showSoon(this.placedPages(), seenBox(this.zoomed, space), scale);
+    this.zoomed = zoom.scale === 1 ? NO_ZOOM : keptInSight(zoom, this.openPart(), space);
+    this.sheet.style.transition = '';
+    this.placeSheet();
+    const { scale } = this.zoomed;
+    const seen = seenBox(this.zoomed, space);
+    if (scale > 1) this.sharp.showSoon(this.placedPages(), { ...seen, x: seen.x - this.shift }, scale);
     else this.sharp.clear();
     this.events.zoomed(this.zoomed);
   }
@@ -164,7 +168,7 @@ export class BookView {
   leafPoint(point: Point): Point {
     const mirror = this.options.rightToLeft ? -1 : 1;
     const { scale, offset } = this.zoomed;
-    const x = (point.x - offset.x) / scale - this.layout.hingeX;
+    const x = (point.x - offset.x) / scale - this.shift - this.layout.hingeX;
     const y = (point.y - offset.y) / scale - this.layout.book.y;
     return { x: (x * mirror) / this.layout.leaf.height, y: y / this.layout.leaf.height };
   }
@@ -190,12 +194,12 @@ export class BookView {
   /** To the side given, or else where it falls by itself. */
   release(leaf: FlyingLeaf, velocity: Point, target?: 0 | 1): void {
     this.turning.release(leaf, velocity, target);
-    this.events.turned(this.places);
+    this.tellTurned();
   }
 
   drop(leaf: FlyingLeaf, target: 0 | 1): void {
     this.turning.drop(leaf, target);
-    this.events.turned(this.places);
+    this.tellTurned();
   }
 
   retry(place: number): void {
@@ -204,6 +208,38 @@ export class BookView {
 
   hasFailed(place: number): boolean {
     return this.book.pages[place - 1]?.width === 0 || this.pictures.hasFailed(place);
+  }
+
+  private tellTurned(): void {
+    const shift = this.shiftAt(this.turning.destination);
+    if (shift !== this.shift) {
+      this.shift = shift;
+      const seconds = this.reducedMotion ? 0 : this.options.turnSeconds;
+      this.sheet.style.transition = `transform ${seconds}s cubic-bezier(0.3, 0, 0.2, 1)`;
+      this.placeSheet();
+    }
+    this.events.turned(this.places);
+  }
+
+  private shiftAt(spread: number): number {
+    const { start, end } = this.spreads[spread] ?? {};
+    if (!this.layout.double || (start && end)) return 0;
+    const half = Math.round(this.layout.leaf.width / 2);
+    return (start === undefined) !== this.options.rightToLeft ? -half : half;
+  }
+
+  private placeSheet(): void {
+    const { scale, offset } = this.zoomed;
+    const x = offset.x + this.shift * scale;
+    this.sheet.style.transform =
+      scale === 1 && x === 0 ? '' : `translate(${x}px, ${offset.y}px) scale(${scale})`;
+  }
+
+  /** What lies open of the book, where it is seen without zoom. */
+  private openPart(): Box {
+    const { start, end } = this.spreads[this.turning.destination] ?? {};
+    const box = start && end ? this.layout.book : this.sideBox(start ? 'start' : 'end');
+    return { ...box, x: box.x + this.shift };
   }
 
   /** A cross-fade instead of a turn. */
@@ -222,6 +258,14 @@ export class BookView {
     this.sheet.append(before);
     this.turning.settle(spread);
     return true;
+  }
+
+  /** Where leaves can be seen, also while the sheet moves to or from a cover. */
+  private airSpace(): Box {
+    const { width, height } = this.space();
+    const { lowest, highest } = this.turning;
+    const side = lowest === 0 || highest === this.spreads.length - 1 ? this.layout.leaf.width / 2 : 0;
+    return { x: -side, y: 0, width: width + 2 * side, height };
   }
 
   private space(): Size {
@@ -253,6 +297,7 @@ export class BookView {
     for (const side of ['start', 'end'] as const)
       putCanvas(this.sides[side], this.sideBox(side), devicePixelRatio);
     this.faces.forget();
+    this.shift = this.shiftAt(this.turning.destination);
     this.setZoom(NO_ZOOM);
     this.showGround();
     this.events.settled(this.places);
@@ -340,7 +385,7 @@ export class BookView {
     this.faces.beginFrame();
     const leaves = this.turning.leaves.map((leaf) => this.inTheAir(leaf, pixelRatio(quality)));
     if (leaves.length === 0) this.air.clear();
-    else this.air.paint(leaves, this.layout, this.space(), this.options.rightToLeft, quality);
+    else this.air.paint(leaves, this.layout, this.airSpace(), this.options.rightToLeft, quality);
   }
 
   private inTheAir(leaf: FlyingLeaf, ratio: number): LeafInTheAir {
