@@ -2,20 +2,9 @@
 import assert from 'node:assert/strict';
 import { after, afterEach, before, describe, it } from 'node:test';
 import { launchBrowser } from '../../tools/browser.mjs';
-import { changedBook, openBook, publishMagazine, removeBook, scriptWith } from './support.mjs';
+import { changedBook, openBook, openPages, publishMagazine, removeBook, scriptWith } from './support.mjs';
 
 const position = (page) => page.locator('.page-field .total').textContent();
-
-/** The places of the pages that lie open with their pictures drawn, once no leaf moves any more. */
-async function openPages(page) {
-  await page.waitForFunction(() => {
-    const shown = [...document.querySelectorAll('.page')].map((each) => each.dataset.place);
-    const drawn = [...document.querySelectorAll('.side:not([hidden])')].map((side) => side.dataset.drawn);
-    const isStill = document.querySelector('.air').hidden;
-    return isStill && shown.length > 0 && shown.every((place) => drawn.includes(place));
-  });
-  return page.locator('.page').evaluateAll((pages) => pages.map((each) => Number(each.dataset.place)));
-}
 
 async function turnWith(page, press) {
   const before = await openPages(page);

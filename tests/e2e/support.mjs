@@ -59,3 +59,14 @@ export async function openBookAt(browser, home, { width = 1280, height = 800, ha
   await page.goto(`${home}index.html${hash}`);
   return page;
 }
+
+/** The places of the pages that lie open with their pictures drawn, once no leaf moves any more. */
+export async function openPages(page) {
+  await page.waitForFunction(() => {
+    const shown = [...document.querySelectorAll('.page')].map((each) => each.dataset.place);
+    const drawn = [...document.querySelectorAll('.side:not([hidden])')].map((side) => side.dataset.drawn);
+    const isStill = document.querySelector('.air').hidden;
+    return isStill && shown.length > 0 && shown.every((place) => drawn.includes(place));
+  });
+  return page.locator('.page').evaluateAll((pages) => pages.map((each) => Number(each.dataset.place)));
+}
