@@ -22,6 +22,21 @@ export function dress(root: HTMLElement, config: BookConfig): void {
   root.classList.toggle('shadowed', text('pageShadow') === '' || isOn(text('pageShadow')));
 }
 
+const NARROW_PIXELS = 720;
+const SHORT_PIXELS = 480;
+
+/** The style sheet arranges the book by its own size, because it may be a part of a larger page. */
+export function followSize(root: HTMLElement, signal: AbortSignal): void {
+  const measure = () => {
+    root.classList.toggle('narrow', root.clientWidth < NARROW_PIXELS);
+    root.classList.toggle('short', root.clientHeight <= SHORT_PIXELS);
+  };
+  measure();
+  const observer = new ResizeObserver(measure);
+  observer.observe(root);
+  signal.addEventListener('abort', () => observer.disconnect());
+}
+
 const isColour = (text: string): boolean => /^#[\da-f]{6}$/i.test(text);
 
 /** Relative luminance as WCAG defines it, of a colour #rrggbb. */

@@ -113,8 +113,9 @@ export class PageLayer {
 
   private addText({ element, marks, links }: ShownPage, lines: readonly TextLine[]): void {
     if (!element.isConnected || lines.length === 0) return;
-    // One element a line, so that a screen reader can be moved through it line by line.
-    marks.after(create('div', { className: 'spoken' }, ...lines.map(({ text }) => create('p', {}, text))));
+    // One element a line, so that a screen reader can be moved through it line by line; the language of
+    // the interface is not that of the book.
+    marks.after(create('div', { className: 'spoken', lang: '' }, ...lines.map(({ text }) => create('p', {}, text))));
     for (const [anchor, link] of links) this.nameLink(anchor, link, textUnder(link, lines));
   }
 

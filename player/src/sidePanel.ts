@@ -20,9 +20,6 @@ interface OpenPanel {
   readonly opener: HTMLElement | undefined;
 }
 
-/** Narrower windows than this give a panel all of their width. */
-const NARROW = '(max-width: 719px)';
-
 /** The place beside the book for one panel at a time, made when it is opened and dropped after it. */
 export class SidePanel {
   private open: OpenPanel | undefined;
@@ -59,7 +56,7 @@ export class SidePanel {
 
   /** Something was chosen in it: makes way for the page where it covers that. */
   makeWay(): void {
-    if (matchMedia(NARROW).matches) this.remove();
+    if (this.root.classList.contains('narrow')) this.remove();
   }
 
   private remove(): void {

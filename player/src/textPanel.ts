@@ -9,7 +9,7 @@ const PAGES_AT_ONCE = 10;
 /** The book as plain text, in sections of a few pages around the open one. */
 export function textPanel(ui: Ui): PanelContent {
   const { reader, say, texts } = ui;
-  const text = create('div', { className: 'text', lang: document.documentElement.lang });
+  const text = create('div', { className: 'text', lang: '' });
   const earlier = create('button', { type: 'button', className: 'plain' }, say('earlier'));
   const later = create('button', { type: 'button', className: 'plain' }, say('later'));
   const element = create('div', { className: 'panel-body' }, earlier, text, later);
