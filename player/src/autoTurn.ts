@@ -43,5 +43,11 @@ export function makeAutoTurn({ reader, root, say, signal }: Ui): HTMLButtonEleme
 /** On something of the book that its reader is using; the switch itself stays focused after a press. */
 function focusIsElsewhere(root: HTMLElement, tool: HTMLElement): boolean {
   const focused = document.activeElement;
-  return focused !== null && focused !== root && focused !== tool && root.contains(focused) && focused.matches(':focus-visible');
+  return (
+    focused !== null &&
+    focused !== root &&
+    focused !== tool &&
+    root.contains(focused) &&
+    focused.matches(':focus-visible')
+  );
 }

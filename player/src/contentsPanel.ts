@@ -35,9 +35,14 @@ function branch(ui: Ui, items: readonly OutlineItem[], path: readonly OutlineIte
 
 function entry(ui: Ui, item: OutlineItem, path: readonly OutlineItem[]): HTMLElement[] {
   const title = leader(ui, item, item === path[path.length - 1]);
-  if (item.items.length === 0) return [create('div', { className: 'row' }, create('span', { className: 'no-twist' }), title)];
+  if (item.items.length === 0)
+    return [create('div', { className: 'row' }, create('span', { className: 'no-twist' }), title)];
   const children = create('div', { className: 'branch', hidden: true });
-  const twist = create('button', { type: 'button', className: 'twist', 'aria-label': ui.say('open', item.title) }, icon('expand'));
+  const twist = create(
+    'button',
+    { type: 'button', className: 'twist', 'aria-label': ui.say('open', item.title) },
+    icon('expand'),
+  );
   const open = (isOpen: boolean) => {
     twist.setAttribute('aria-expanded', String(isOpen));
     children.hidden = !isOpen;
@@ -52,7 +57,13 @@ function entry(ui: Ui, item: OutlineItem, path: readonly OutlineItem[]): HTMLEle
 function leader({ reader, names, panel }: Ui, { title, place }: OutlineItem, isCurrent: boolean): HTMLElement {
   if (place === 0) return create('span', { className: 'leads-nowhere' }, title);
   const label = create('span', { className: 'number' }, names.label(place));
-  const anchor = create('a', { href: hashOf(place), 'aria-current': isCurrent ? 'true' : undefined }, create('span', {}, title), ' ', label);
+  const anchor = create(
+    'a',
+    { href: hashOf(place), 'aria-current': isCurrent ? 'true' : undefined },
+    create('span', {}, title),
+    ' ',
+    label,
+  );
   anchor.addEventListener('click', (event) => {
     if (event.ctrlKey || event.metaKey || event.shiftKey) return;
     event.preventDefault();

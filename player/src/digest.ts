@@ -9,7 +9,7 @@ export const chrsz = 8; // bits taken from each character
 export function str2binl(text: string): number[] {
   const words: number[] = [];
   for (let bit = 0; bit < text.length * chrsz; bit += chrsz)
-    words[bit >> 5]! |= (text.charCodeAt(bit / chrsz) & ((1 << chrsz) - 1)) << bit % 32;
+    words[bit >> 5]! |= (text.charCodeAt(bit / chrsz) & ((1 << chrsz) - 1)) << (bit % 32);
   return words;
 }
 
@@ -18,7 +18,12 @@ export function binl2hex(words: readonly number[]): string {
   return Array.from(words, (word) => [0, 8, 16, 24].map((shift) => hexByte(word >>> shift)).join('')).join('');
 }
 
-const SHIFTS = [[7, 12, 17, 22], [5, 9, 14, 20], [4, 11, 16, 23], [6, 10, 15, 21]] as const;
+const SHIFTS = [
+  [7, 12, 17, 22],
+  [5, 9, 14, 20],
+  [4, 11, 16, 23],
+  [6, 10, 15, 21],
+] as const;
 
 type Mixer = (b: number, c: number, d: number) => readonly [mixed: number, factor: number, offset: number];
 
@@ -41,7 +46,7 @@ export function core_hx(words: readonly number[], bits: number): number[] {
 function padded(words: readonly number[], bits: number): number[] {
   const end = (((bits + 64) >>> 9) << 4) + 14;
   const message = Array.from({ length: end + 2 }, (_, index) => words[index]! | 0);
-  message[bits >> 5]! |= 0x80 << bits % 32;
+  message[bits >> 5]! |= 0x80 << (bits % 32);
   message[end] = bits;
   return message;
 }

@@ -22,7 +22,12 @@ export interface EmbeddedBook {
   destroy(): void;
 }
 
-function mount(element: HTMLElement, config: BookConfig, data?: BookData, options: { place?: number } = {}): EmbeddedBook {
+function mount(
+  element: HTMLElement,
+  config: BookConfig,
+  data?: BookData,
+  options: { place?: number } = {},
+): EmbeddedBook {
   const { reader, signal, destroy }: MountedBook = mountBook(element, config, data, options);
   if (reader) answerMessages(reader, signal);
   return {

@@ -18,6 +18,8 @@ export function openHelpDialog(ui: Ui): void {
   ];
   const list = create('dl', { className: 'keys' });
   for (const [name, keys] of rows)
-    list.append(create('div', {}, create('dt', {}, name), create('dd', {}, ...keys.map((key) => create('kbd', {}, key)))));
+    list.append(
+      create('div', {}, create('dt', {}, name), create('dd', {}, ...keys.map((key) => create('kbd', {}, key)))),
+    );
   openDialog(ui, say('help'), list);
 }

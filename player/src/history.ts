@@ -7,7 +7,10 @@ import type { Settings } from './settings.ts';
 const lastPageOf = (): LastPage => new LastPage(() => localStorage, `leafcast:${location.pathname}`);
 
 const placeOfAddress = (book: Book): number | undefined =>
-  placeOfHash(location.hash, book.pages.map(({ label }) => label));
+  placeOfHash(
+    location.hash,
+    book.pages.map(({ label }) => label),
+  );
 
 /** What an address asks for goes before what was read last. */
 export function firstPlace(book: Book, settings: Settings): number {

@@ -18,7 +18,8 @@ export function answerMessages(reader: Reader, signal: AbortSignal): void {
   if (window.parent === window) return;
   let listener = '';
   const send = (name: string, places: readonly number[]) => {
-    if (listener) window.parent.postMessage({ leafcast: name, places: [...places], pageCount: reader.pageCount }, listener);
+    if (listener)
+      window.parent.postMessage({ leafcast: name, places: [...places], pageCount: reader.pageCount }, listener);
   };
   const commands: Readonly<Record<string, (message: Command, origin: string) => void>> = {
     listen: (_, origin) => {

@@ -59,7 +59,12 @@ export function mountBook(
     return mounted;
   }
   const stage = makeStage(root, settings);
-  const reader = new Reader(stage, book, settings, options.ownsPage ? firstPlace(book, settings) : (options.place ?? 1));
+  const reader = new Reader(
+    stage,
+    book,
+    settings,
+    options.ownsPage ? firstPlace(book, settings) : (options.place ?? 1),
+  );
   furnish(root, reader, say, options, taken.signal);
   return { ...mounted, reader };
 }

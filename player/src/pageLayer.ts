@@ -73,7 +73,8 @@ export class PageLayer {
     // In reading order, which is the order in which they are reached by keys.
     const inOrder = [...new Set(places)].map((place) => this.shown.get(place)!.element);
     inOrder.forEach((element, index) => {
-      if (this.element.children[index] !== element) this.element.insertBefore(element, this.element.children[index] ?? null);
+      if (this.element.children[index] !== element)
+        this.element.insertBefore(element, this.element.children[index] ?? null);
     });
     this.showFailures();
   }
@@ -176,16 +177,22 @@ export class PageLayer {
   private failureCard(place: number): HTMLElement {
     const page = this.reader.book.pages[place - 1]!;
     const label = create('p', { className: 'label', 'aria-hidden': 'true' }, this.names.label(place));
+    const reason = create('p', { className: 'reason' });
+    const card = create('div', { className: 'missing' }, label, reason);
     // A page that was never given a picture cannot be had by asking again.
-    if (page.width === 0)
-      return create('div', { className: 'missing' }, label, create('p', { className: 'reason' }, this.say('missing', page.image)));
+    reason.textContent = page.width === 0 ? this.say('missing', page.image) : this.say('failed');
+    if (page.width > 0) card.append(this.retryButton(place));
+    return card;
+  }
+
+  private retryButton(place: number): HTMLElement {
     const retry = create('button', { type: 'button', className: 'plain' }, icon('retry'), this.say('retry'));
     retry.addEventListener('click', () => {
       this.focus(place);
       this.reader.retry(place);
       this.showFailures();
     });
-    return create('div', { className: 'missing' }, label, create('p', { className: 'reason' }, this.say('failed')), retry);
+    return retry;
   }
 
   private focusAfterJump(): void {
@@ -198,7 +205,8 @@ export class PageLayer {
 /** A book inside another page takes the focus from its own controls only. */
 function isFocusFree(element: HTMLElement): boolean {
   const focused = document.activeElement;
-  const isOurs = focused === null || focused === document.body || focused.closest('.leafcast') === element.closest('.leafcast');
+  const isOurs =
+    focused === null || focused === document.body || focused.closest('.leafcast') === element.closest('.leafcast');
   return document.hasFocus() && isOurs;
 }
 

@@ -30,7 +30,8 @@ export class PageNames {
   spoken(places: readonly number[]): string {
     const [first = 1, second] = places;
     const [counts, total] = [places.join('–'), this.pages.length];
-    if (this.areCounted(places)) return second ? this.say('pagesOf', first, second, total) : this.say('pageOf', first, total);
+    if (this.areCounted(places))
+      return second ? this.say('pagesOf', first, second, total) : this.say('pageOf', first, total);
     return second
       ? this.say('labelledPagesOf', this.label(first), this.label(second), counts, total)
       : this.say('labelledOf', this.label(first), counts, total);
@@ -46,7 +47,10 @@ export class PageNames {
   /** Places of "1-4, 7" in ascending order; nothing when a part of it names no page. */
   findRange(text: string): number[] | undefined {
     const found = new Set<number>();
-    for (const part of text.split(',').map((each) => each.trim()).filter(Boolean)) {
+    for (const part of text
+      .split(',')
+      .map((each) => each.trim())
+      .filter(Boolean)) {
       const places = this.findPart(part);
       if (!places) return undefined;
       for (let place = Math.min(...places); place <= Math.max(...places); place++) found.add(place);

@@ -25,7 +25,8 @@ export function paragraphsOf(lines: readonly TextLine[], shape: number): string[
   for (const line of lines) {
     const placed = placedLine(line, shape);
     const last = paragraphs.length - 1;
-    if (previous && placed && goesOn(previous, placed, paragraphs[last]!)) paragraphs[last] = joined(paragraphs[last]!, previous, placed);
+    if (previous && placed && goesOn(previous, placed, paragraphs[last]!))
+      paragraphs[last] = joined(paragraphs[last]!, previous, placed);
     else paragraphs.push(line.text);
     previous = placed;
   }

@@ -6,12 +6,23 @@ import type { Ui } from './ui.ts';
 /** Asks which pages to print and prints their pictures, one a sheet. */
 export function openPrintDialog(ui: Ui): void {
   const { say, names, reader } = ui;
-  const pages = create('input', { type: 'text', className: 'field', 'aria-label': say('printExample'), placeholder: '1-4, 7' });
+  const pages = create('input', {
+    type: 'text',
+    className: 'field',
+    'aria-label': say('printExample'),
+    placeholder: '1-4, 7',
+  });
   const some = choice(say('printSome'), 'some', false, pages);
   const note = create('p', { className: 'note', role: 'status' }, say('printExample'));
-  const form = create('form', { className: 'form', noValidate: true },
-    choice(say('printOpen'), 'open', true), choice(say('printAll'), 'all', false), some, note,
-    create('button', { type: 'submit', className: 'main-button' }, say('print')));
+  const form = create(
+    'form',
+    { className: 'form', noValidate: true },
+    choice(say('printOpen'), 'open', true),
+    choice(say('printAll'), 'all', false),
+    some,
+    note,
+    create('button', { type: 'submit', className: 'main-button' }, say('print')),
+  );
   pages.addEventListener('focus', () => (some.querySelector('input')!.checked = true));
   const close = openDialog(ui, say('print'), form);
   form.addEventListener('submit', (event) => {
@@ -20,7 +31,10 @@ export function openPrintDialog(ui: Ui): void {
     note.textContent = say(places ? 'printing' : 'printWrong');
     pages.setAttribute('aria-invalid', String(!places));
     if (!places) return pages.focus();
-    void printPages(places.map((place) => reader.book.pages[place - 1]!.image), places.map((place) => names.label(place))).then(close);
+    void printPages(
+      places.map((place) => reader.book.pages[place - 1]!.image),
+      places.map((place) => names.label(place)),
+    ).then(close);
   });
 }
 

@@ -98,7 +98,13 @@ class SearchPanel {
   private entry(hit: Hit): HTMLElement {
     const { reader, names, say, layer, panel } = this.ui;
     const page = create('span', { className: 'number' }, say('page', names.label(hit.place)));
-    const context = create('span', { className: 'context' }, `${hit.before} `, create('mark', {}, hit.match), ` ${hit.after}`);
+    const context = create(
+      'span',
+      { className: 'context' },
+      `${hit.before} `,
+      create('mark', {}, hit.match),
+      ` ${hit.after}`,
+    );
     const button = create('button', { type: 'button' }, page, context);
     button.addEventListener('click', () => {
       this.list.querySelector('[aria-current]')?.removeAttribute('aria-current');

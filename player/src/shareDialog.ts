@@ -24,8 +24,7 @@ export const snippet = (address: string, title: string): string =>
   `<iframe src="${escaped(address)}" title="${escaped(title)}" width="960" height="640" ` +
   'style="border:0;max-width:100%" allow="fullscreen; clipboard-write; web-share"></iframe>';
 
-const escaped = (text: string): string =>
-  text.replace(/&/g, '&amp;').replace(/"/g, '&quot;').replace(/</g, '&lt;');
+const escaped = (text: string): string => text.replace(/&/g, '&amp;').replace(/"/g, '&quot;').replace(/</g, '&lt;');
 
 function copyField({ say, announce }: Ui, label: string, text: string): HTMLElement {
   const field = create('input', { type: 'text', className: 'field', readOnly: true, value: text });

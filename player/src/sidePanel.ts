@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 import { create } from './dom.ts';
-import { icon } from './icons.ts';
+import { panelHead } from './panelHead.ts';
 import type { Say } from './texts.ts';
 
 export interface PanelContent {
@@ -67,10 +67,7 @@ export class SidePanel {
   }
 
   private frame(title: string, body: HTMLElement): HTMLElement {
-    const close = create('button', { type: 'button', className: 'tool', title: this.say('close'), 'aria-label': this.say('close') });
-    close.append(icon('close'));
-    close.addEventListener('click', () => this.close());
-    const head = create('div', { className: 'panel-head' }, create('h2', {}, title), close);
+    const head = panelHead(title, this.say('close'), () => this.close());
     const element = create('aside', { className: 'panel', 'aria-label': title, tabIndex: -1 }, head, body);
     element.addEventListener('keydown', (event) => {
       if (event.key !== 'Escape') return;

@@ -7,7 +7,13 @@ const THUMB_PIXELS = 18; // as in the style sheet
 
 /** Goes through the book; what lies where is seen in a bubble above it. */
 export function makeSlider({ reader, say, names, thumbnails }: Ui): HTMLElement {
-  const range = create('input', { type: 'range', min: '1', step: '1', className: 'range', 'aria-label': say('slider') });
+  const range = create('input', {
+    type: 'range',
+    min: '1',
+    step: '1',
+    className: 'range',
+    'aria-label': say('slider'),
+  });
   range.max = String(Math.max(reader.pageCount, 1));
   range.dir = reader.settings.rightToLeft ? 'rtl' : 'ltr';
   const bubble = new Bubble(range, thumbnails, (place) => say('page', names.label(place)));
@@ -55,7 +61,12 @@ function placeUnder(range: HTMLInputElement, clientX: number): number {
 class Bubble {
   private readonly canvas = create('canvas');
   private readonly label = create('span');
-  readonly element = create('div', { className: 'bubble', hidden: true, 'aria-hidden': 'true' }, this.canvas, this.label);
+  readonly element = create(
+    'div',
+    { className: 'bubble', hidden: true, 'aria-hidden': 'true' },
+    this.canvas,
+    this.label,
+  );
   private place = 0;
 
   constructor(

@@ -14,7 +14,12 @@ export interface Language {
   readonly texts: Texts;
 }
 
-const language = (code: string, name: string, texts: Texts): Language => ({ code, name, rightToLeft: code === 'ar', texts });
+const language = (code: string, name: string, texts: Texts): Language => ({
+  code,
+  name,
+  rightToLeft: code === 'ar',
+  texts,
+});
 
 export const LANGUAGES: readonly Language[] = [
   language('en', 'English', english),
@@ -38,5 +43,7 @@ const primary = (tag: string): string => tag.slice(0, 2).toLowerCase();
 
 export type Say = (key: keyof Texts, ...values: readonly (string | number)[]) => string;
 
-export const sayIn = (texts: Texts): Say => (key, ...values) =>
-  texts[key].replace(/\{(\d)\}/g, (_, index: string) => String(values[Number(index)] ?? ''));
+export const sayIn =
+  (texts: Texts): Say =>
+  (key, ...values) =>
+    texts[key].replace(/\{(\d)\}/g, (_, index: string) => String(values[Number(index)] ?? ''));

@@ -70,7 +70,10 @@ class Overview {
     this.list.style.height = `${Math.ceil(pageCount / columns) * (height + GAP) - GAP}px`;
     const row = (pixels: number) => Math.floor(pixels / (height + GAP));
     const first = Math.max(row(this.element.scrollTop) - ROWS_BEYOND, 0) * columns + 1;
-    const last = Math.min((row(this.element.scrollTop + this.element.clientHeight) + 1 + ROWS_BEYOND) * columns, pageCount);
+    const last = Math.min(
+      (row(this.element.scrollTop + this.element.clientHeight) + 1 + ROWS_BEYOND) * columns,
+      pageCount,
+    );
     for (const [place, cell] of this.cells) if (place < first || place > last) this.drop(place, cell);
     for (let place = first; place <= last; place++) this.place(place, this.cells.get(place) ?? this.add(place));
     this.markOpenPages();
@@ -85,7 +88,12 @@ class Overview {
     const { reader, names, say, thumbnails, panel } = this.ui;
     const canvas = create('canvas', { 'aria-hidden': 'true' });
     const name = say('page', names.label(place));
-    const button = create('button', { type: 'button', 'aria-label': name, tabIndex: -1 }, canvas, create('span', {}, names.label(place)));
+    const button = create(
+      'button',
+      { type: 'button', 'aria-label': name, tabIndex: -1 },
+      canvas,
+      create('span', {}, names.label(place)),
+    );
     button.addEventListener('click', () => {
       panel.makeWay();
       reader.goTo(place);
@@ -123,7 +131,12 @@ class Overview {
     const { columns } = this.grid;
     const { pageCount } = this.ui.reader;
     const steps: Readonly<Record<string, number>> = {
-      ArrowRight: sideways, ArrowLeft: -sideways, ArrowDown: columns, ArrowUp: -columns, Home: -pageCount, End: pageCount,
+      ArrowRight: sideways,
+      ArrowLeft: -sideways,
+      ArrowDown: columns,
+      ArrowUp: -columns,
+      Home: -pageCount,
+      End: pageCount,
     };
     const step = steps[event.key];
     if (!here || step === undefined) return;

@@ -91,7 +91,11 @@ function logo({ reader: { settings } }: Ui): HTMLElement[] {
   const picture = create('img', { src: settings.logo, alt: settings.logoLink || 'Logo' });
   const isWebLink = /^https?:/i.test(settings.logoLink);
   const element = isWebLink
-    ? create('a', { className: 'logo', href: settings.logoLink, target: settings.linkTarget, rel: 'noopener noreferrer' }, picture)
+    ? create(
+        'a',
+        { className: 'logo', href: settings.logoLink, target: settings.linkTarget, rel: 'noopener noreferrer' },
+        picture,
+      )
     : create('span', { className: 'logo' }, picture);
   picture.addEventListener('error', () => element.remove());
   return [element];

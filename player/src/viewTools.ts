@@ -38,7 +38,10 @@ const VIEWS: readonly { readonly mode: Mode; readonly picture: Icon; readonly na
 
 /** Each press shows the next way of looking at the pages. */
 export function makeViewMode({ reader, say, announce }: Ui): HTMLButtonElement {
-  let at = Math.max(VIEWS.findIndex(({ mode }) => mode === reader.settings.mode), 0);
+  let at = Math.max(
+    VIEWS.findIndex(({ mode }) => mode === reader.settings.mode),
+    0,
+  );
   const view = () => VIEWS[at]!;
   const tool: HTMLButtonElement = makeTool(view().picture, say(view().name), () => {
     at = (at + 1) % VIEWS.length;

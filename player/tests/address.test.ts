@@ -11,13 +11,29 @@ test('every place comes back from its own address', () => {
 
 test('labels are found in any case and encoding, and numbers are places', () => {
   for (const [hash, place] of [
-    ['#page/Cover', 1], ['#page/II', 2], ['#page/A%20%26%20B', 5], ['#page/A & B', 5], ['#page/1', 1], ['#page/2', 2],
+    ['#page/Cover', 1],
+    ['#page/II', 2],
+    ['#page/A%20%26%20B', 5],
+    ['#page/A & B', 5],
+    ['#page/1', 1],
+    ['#page/2', 2],
   ] as const)
     assert.equal(placeOfHash(hash, LABELS), place, hash);
 });
 
 test('an address that names no page of the book names none', () => {
-  for (const hash of ['', '#', '#page/', '#page/0', '#page/6', '#page/-1', '#page/1.5', '#page/iii', '#chapter/1', '#page/%E0%A4%A'])
+  for (const hash of [
+    '',
+    '#',
+    '#page/',
+    '#page/0',
+    '#page/6',
+    '#page/-1',
+    '#page/1.5',
+    '#page/iii',
+    '#chapter/1',
+    '#page/%E0%A4%A',
+  ])
     assert.equal(placeOfHash(hash, LABELS), undefined, hash);
 });
 

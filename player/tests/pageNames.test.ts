@@ -6,7 +6,10 @@ import { LANGUAGES, sayIn } from '../src/texts.ts';
 
 const say = sayIn(LANGUAGES[0]!.texts);
 const named = (...labels: string[]) =>
-  new PageNames(labels.map((label) => ({ label, image: '', width: 0, height: 0, links: [] })), say);
+  new PageNames(
+    labels.map((label) => ({ label, image: '', width: 0, height: 0, links: [] })),
+    say,
+  );
 const counted = named('1', '2', '3', '4', '5', '6');
 const labelled = named('Cover', 'i', 'ii', '1', '2', 'A-1');
 
@@ -19,7 +22,14 @@ test('pages that are called by their place are told once, others by both', () =>
 });
 
 test('a page is found by its label first, else by its place', () => {
-  for (const [text, place] of [['cover', 1], [' II ', 3], ['1', 4], ['2', 5], ['3', 3], ['6', 6]] as const)
+  for (const [text, place] of [
+    ['cover', 1],
+    [' II ', 3],
+    ['1', 4],
+    ['2', 5],
+    ['3', 3],
+    ['6', 6],
+  ] as const)
     assert.equal(labelled.find(text), place, text);
   for (const text of ['', '0', '7', 'iii', '-1', '1.5']) assert.equal(labelled.find(text), undefined, text);
 });

@@ -11,7 +11,10 @@ const OUTLINE = [
   item('Part one', 0, item('Apples', 3, item('Sorts', 5)), item('Not in this book', 0)),
   item('Part two', 8, item('Pears', 8)),
 ];
-const path = (place: number) => pathTo(OUTLINE, place).map(({ title }) => title).join(' / ');
+const path = (place: number) =>
+  pathTo(OUTLINE, place)
+    .map(({ title }) => title)
+    .join(' / ');
 
 test('the open chapter is the last and deepest one that starts before the page ends', () => {
   assert.equal(path(1), 'Cover');

@@ -6,8 +6,10 @@ import { isBroken, paragraphsOf } from '../src/paragraphs.ts';
 const HEIGHT = 0.02;
 
 /** A line of one box, at a place in lines and columns of text. */
-const at = (text: string, line: number, left = 0.1, height = HEIGHT) =>
-  ({ text, boxes: [[left, line * HEIGHT * 1.3, 0.3, height] as const] });
+const at = (text: string, line: number, left = 0.1, height = HEIGHT) => ({
+  text,
+  boxes: [[left, line * HEIGHT * 1.3, 0.3, height] as const],
+});
 
 const read = (...lines: ReturnType<typeof at>[]) => paragraphsOf(lines, 0.77);
 
@@ -39,5 +41,14 @@ test('a large initial belongs to its word', () => {
 });
 
 test('lines without places stay as they are', () => {
-  assert.deepEqual(paragraphsOf([{ text: 'a', boxes: [] }, { text: 'b', boxes: [] }], 1), ['a', 'b']);
+  assert.deepEqual(
+    paragraphsOf(
+      [
+        { text: 'a', boxes: [] },
+        { text: 'b', boxes: [] },
+      ],
+      1,
+    ),
+    ['a', 'b'],
+  );
 });

@@ -24,18 +24,28 @@ async function find(query: string, ...pages: TextLine[][]): Promise<Hit[]> {
   return all;
 }
 
-const matches = async (query: string, ...lines: string[]) => (await find(query, pageOf(...lines))).map(({ match }) => match);
+const matches = async (query: string, ...lines: string[]) =>
+  (await find(query, pageOf(...lines))).map(({ match }) => match);
 
 test('case, accents, ligatures and width make no difference', async () => {
   for (const [query, text] of [
-    ['cafe', 'Café'], ['CAFÉ', 'cafe'], ['office', 'oﬃce'], ['strasse', 'Straße'], ['Straße', 'STRASSE'],
-    ['abc', 'ＡＢＣ'], ['leaf', 'le\u00adaf'], ["it's", 'it’s'], ['カ', 'ｶ'], ['محمد', 'مُحَمَّد'],
+    ['cafe', 'Café'],
+    ['CAFÉ', 'cafe'],
+    ['office', 'oﬃce'],
+    ['strasse', 'Straße'],
+    ['Straße', 'STRASSE'],
+    ['abc', 'ＡＢＣ'],
+    ['leaf', 'le\u00adaf'],
+    ["it's", 'it’s'],
+    ['カ', 'ｶ'],
+    ['محمد', 'مُحَمَّد'],
   ])
     assert.deepEqual(await matches(query!, text!), [text], `${query} in ${text}`);
 });
 
 test('a query of blanks, or of what is not there, finds nothing', async () => {
-  for (const query of ['', '  ', '\t', 'maple', 'oak tree leaf']) assert.deepEqual(await matches(query, 'The oak tree'), []);
+  for (const query of ['', '  ', '\t', 'maple', 'oak tree leaf'])
+    assert.deepEqual(await matches(query, 'The oak tree'), []);
 });
 
 test('phrases are found across lines, however they are spaced in the query', async () => {
@@ -50,7 +60,15 @@ test('a word that is cut at the end of a line is found whole', async () => {
 
 test('hits come in reading order, with their page', async () => {
   const hits = await find('oak', pageOf('no tree'), pageOf('oak and oak', 'soaked'), pageOf('Oak'));
-  assert.deepEqual(hits.map(({ place, match }) => [place, match]), [[2, 'oak'], [2, 'oak'], [2, 'soaked'], [3, 'Oak']]);
+  assert.deepEqual(
+    hits.map(({ place, match }) => [place, match]),
+    [
+      [2, 'oak'],
+      [2, 'oak'],
+      [2, 'soaked'],
+      [3, 'Oak'],
+    ],
+  );
 });
 
 test('a hit knows the words around it', async () => {
@@ -62,15 +80,22 @@ test('there is one box for each line that a hit touches, around all of its words
   const [hit] = await find('two three four five', pageOf('one two three', 'four five six'));
   assert.deepEqual(
     hit!.boxes.map((box) => box.map((each) => Math.round(each * 100))),
-    [[10, 0, 20, 5], [0, 5, 20, 5]],
+    [
+      [10, 0, 20, 5],
+      [0, 5, 20, 5],
+    ],
   );
 });
 
 test('text without boxes is found too', async () => {
   const hits = await find('words', [{ text: 'only words', boxes: [] }]);
-  assert.deepEqual(hits.map(({ boxes }) => boxes), [[]]);
+  assert.deepEqual(
+    hits.map(({ boxes }) => boxes),
+    [[]],
+  );
 });
 
 test('folding twice changes nothing more', () => {
-  for (const text of ['Ärger  im Straßenverkehr', 'ﬁne “quotes”', 'ÅNGSTRÖM']) assert.equal(fold(fold(text)), fold(text));
+  for (const text of ['Ärger  im Straßenverkehr', 'ﬁne “quotes”', 'ÅNGSTRÖM'])
+    assert.equal(fold(fold(text)), fold(text));
 });
