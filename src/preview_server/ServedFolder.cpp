@@ -3,6 +3,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <dirent.h>
 #include <fcntl.h>
 #include <linux/openat2.h>
@@ -27,6 +28,13 @@ namespace {
         return { exhausted ? Lookup::Result::TooManyFiles : Lookup::Result::Nothing, {} };
     }
 
+    // Empty when it can't be told.
+    std::string fullPath(const char* path)
+    {
+        const std::unique_ptr<char, void (*)(void*)> full(realpath(path, nullptr), std::free);
+        return full ? full.get() : std::string();
+    }
+
     // The inode too: a page that is written anew within a tick of the clock is another file.
     std::string versionOf(const struct stat& status)
     {
@@ -43,6 +51,7 @@ namespace {
 
 ServedFolder::ServedFolder(const char* path)
     : iRoot(open(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    , iPath(fullPath(path))
 {
     if (!iRoot)
         throw std::system_error(errno, std::generic_category(), "the folder can't be read");
@@ -50,10 +59,12 @@ ServedFolder::ServedFolder(const char* path)
 
 Lookup ServedFolder::find(const RequestPath& path) const
 {
+    const FileDescriptor successor = openSuccessor();
+    const int root = successor ? successor.get() : iRoot.get();
     std::vector<std::string> names = path.names;
     if (names.empty() || path.endsWithSlash)
-        names.emplace_back(names.empty() ? pageOfRoot() : IndexPage);
-    FileDescriptor file = openBeneath(names);
+        names.emplace_back(names.empty() ? pageOf(root) : IndexPage);
+    FileDescriptor file = openBeneath(root, names);
     if (!file)
         return failedLookup();
     struct stat status { };
@@ -67,7 +78,15 @@ Lookup ServedFolder::find(const RequestPath& path) const
         { std::move(file), names.back(), status.st_size, status.st_mtim, versionOf(status) } };
 }
 
-FileDescriptor ServedFolder::openBeneath(const std::vector<std::string>& names) const
+FileDescriptor ServedFolder::openSuccessor() const
+{
+    struct stat status { };
+    if (fstat(iRoot.get(), &status) != 0 || status.st_nlink > 0)
+        return {};
+    return FileDescriptor(open(iPath.c_str(), FolderFlags));
+}
+
+FileDescriptor ServedFolder::openBeneath(int root, const std::vector<std::string>& names)
 {
     std::string path;
     for (const std::string& name : names)
@@ -75,17 +94,17 @@ FileDescriptor ServedFolder::openBeneath(const std::vector<std::string>& names) 
     open_how how{};
     how.flags = FileFlags;
     how.resolve = RESOLVE_BENEATH | RESOLVE_NO_SYMLINKS;
-    const long opened = syscall(SYS_openat2, iRoot.get(), path.c_str(), &how, sizeof how);
+    const long opened = syscall(SYS_openat2, root, path.c_str(), &how, sizeof how);
     // Kernels before 5.6 don't know it, some sandboxes don't allow it.
     const bool unknown = opened < 0 && (errno == ENOSYS || errno == EPERM);
-    return unknown ? openStepByStep(names) : FileDescriptor(static_cast<int>(opened));
+    return unknown ? openStepByStep(root, names) : FileDescriptor(static_cast<int>(opened));
 }
 
-FileDescriptor ServedFolder::openStepByStep(const std::vector<std::string>& names) const
+FileDescriptor ServedFolder::openStepByStep(int root, const std::vector<std::string>& names)
 {
     FileDescriptor folder;
     for (size_t i = 0; i < names.size(); ++i) {
-        const int parent = folder ? folder.get() : iRoot.get();
+        const int parent = folder ? folder.get() : root;
         const int flags = i + 1 < names.size() ? FolderFlags : FileFlags;
         folder = FileDescriptor(openat(parent, names[i].c_str(), flags));
         if (!folder)
@@ -94,11 +113,11 @@ FileDescriptor ServedFolder::openStepByStep(const std::vector<std::string>& name
     return folder;
 }
 
-std::string ServedFolder::pageOfRoot() const
+std::string ServedFolder::pageOf(int root)
 {
-    if (faccessat(iRoot.get(), IndexPage, F_OK, AT_SYMLINK_NOFOLLOW) == 0)
+    if (faccessat(root, IndexPage, F_OK, AT_SYMLINK_NOFOLLOW) == 0)
         return IndexPage;
-    const int copy = openat(iRoot.get(), ".", FolderFlags);
+    const int copy = openat(root, ".", FolderFlags);
     const std::unique_ptr<DIR, int (*)(DIR*)> entries(
         copy < 0 ? nullptr : fdopendir(copy), closedir);
     std::string page;

@@ -26,7 +26,8 @@ struct Lookup {
 };
 
 /// The folder that is served. Nothing but regular files below it can be reached: paths are resolved
-/// from the opened folder, and links are never followed.
+/// from the opened folder, and links are never followed. When it has been removed, as a package is
+/// before it is published again, the folder that was made anew in its place is served.
 class ServedFolder {
 public:
     /// Throws std::system_error when it can't be opened.
@@ -37,11 +38,13 @@ public:
     Lookup find(const RequestPath& path) const;
 
 private:
-    FileDescriptor openBeneath(const std::vector<std::string>& names) const;
-    FileDescriptor openStepByStep(const std::vector<std::string>& names) const;
-    std::string pageOfRoot() const;
+    FileDescriptor openSuccessor() const;
+    static FileDescriptor openBeneath(int root, const std::vector<std::string>& names);
+    static FileDescriptor openStepByStep(int root, const std::vector<std::string>& names);
+    static std::string pageOf(int root);
 
     FileDescriptor iRoot;
+    std::string iPath;
 };
 
 } // namespace leafcast::preview

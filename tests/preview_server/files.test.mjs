@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 import assert from 'node:assert/strict';
-import { renameSync, rmSync, utimesSync, writeFileSync } from 'node:fs';
+import { mkdirSync, renameSync, rmSync, symlinkSync, utimesSync, writeFileSync } from 'node:fs';
 import { join } from 'node:path';
 import { after, before, describe, it } from 'node:test';
 import { gunzipSync } from 'node:zlib';
@@ -133,6 +133,22 @@ describe('the preview server asked for files', () => {
     const { status, fields } = await ask(port, link);
     assert.deepEqual([status, fields.location, fields['cache-control']], [301, `${link}/`, 'no-cache']);
     assert.equal((await ask(port, fields.location)).body.toString(), 'odd');
+  });
+
+  it('serves a folder on that is removed and made anew, and no link in its place', async () => {
+    const book = makeFolder({ 'index.html': 'the book' });
+    const outside = makeFolder({ 'index.html': 'SECRET' });
+    const served = await startServer(book);
+    removeFolder(book);
+    assert.equal((await ask(served.port, '/')).status, 404);
+    symlinkSync(outside, book);
+    assert.equal((await ask(served.port, '/')).status, 404);
+    removeFolder(book);
+    mkdirSync(book);
+    writeFileSync(join(book, 'index.html'), 'the book again');
+    assert.equal((await ask(served.port, '/')).body.toString(), 'the book again');
+    await served.stop();
+    [book, outside].forEach(removeFolder);
   });
 
   it('finds the only page of the served folder, whatever its name', async () => {
