@@ -60,7 +60,9 @@ class PreviewServer:
 
     def __init__(self, program, book):
         self.process = subprocess.Popen([program, "--quiet"], cwd=book, stdout=subprocess.PIPE)
-        self.port = json.loads(self.process.stdout.readline())["port"]
+        announced = json.loads(self.process.stdout.readline())
+        self.port = announced["port"]
+        self.address = announced["addresses"][0]  # the one that a tablet would take
 
     def processes(self):
         return [self.process.pid]
@@ -77,6 +79,7 @@ class Nginx:
         self.folder = Path(tempfile.mkdtemp())
         # Its workers are another user, who must reach the book below our build folder.
         self.port = free_port()
+        self.address = f"http://127.0.0.1:{self.port}/"
         configuration = self.folder / "nginx.conf"
         user = "user root;\n"
         configuration.write_text(user + NGINX.format(folder=self.folder, port=self.port, book=book))
@@ -119,7 +122,7 @@ async def under_load(server, pages):
             script.flush()
             wrk = await asyncio.create_subprocess_exec(
                 "wrk", "-t2", f"-c{CONNECTIONS}", f"-d{SECONDS}", "-s", script.name,
-                f"http://127.0.0.1:{server.port}/", stdout=subprocess.PIPE)
+                server.address, stdout=subprocess.PIPE)
             output = (await wrk.communicate())[0].decode()
         memory = sum(map(peak_bytes, server.processes()))
         return Load(float(re.search(r"Requests/sec:\s+([\d.]+)", output)[1]), wrk_failures(output),

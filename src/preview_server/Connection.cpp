@@ -171,6 +171,7 @@ namespace {
 
 net::awaitable<void> serveConnection(tcp::socket socket, FilePolicy& policy, ConnectionTimes& times)
 {
+    const net::ip::address reachedAt = socket.local_endpoint().address();
     Client client(std::move(socket), times);
     for (bool keepsAlive = true; keepsAlive;) {
         co_await waitForRequest(client);
@@ -180,7 +181,7 @@ net::awaitable<void> serveConnection(tcp::socket socket, FilePolicy& policy, Con
         co_await readHeader(client, parser, error);
         if (error && !isClientsFault(error))
             co_return;
-        Reply reply = error ? refusalOf(error) : policy.answer(parser.get());
+        Reply reply = error ? refusalOf(error) : policy.answer(parser.get(), reachedAt);
         keepsAlive = !reply.closesConnection && parser.get().keep_alive();
         reply.head.version(parser.get().version() == 10 ? 10 : 11);
         reply.head.keep_alive(keepsAlive);

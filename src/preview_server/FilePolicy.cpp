@@ -12,6 +12,7 @@
 namespace leafcast::preview {
 
 namespace http = boost::beast::http;
+namespace ip = boost::asio::ip;
 
 namespace {
 
@@ -114,15 +115,15 @@ namespace {
 
 } // namespace
 
-Reply FilePolicy::answer(const Request& request)
+Reply FilePolicy::answer(const Request& request, const ip::address& reachedAt)
 {
-    Reply reply = answerAnyMethod(request);
+    Reply reply = answerAnyMethod(request, reachedAt);
     if (request.method() == http::verb::head)
         reply.dropBody();
     return reply;
 }
 
-Reply FilePolicy::answerAnyMethod(const Request& request)
+Reply FilePolicy::answerAnyMethod(const Request& request, const ip::address& reachedAt)
 {
     if (request.method() != http::verb::get && request.method() != http::verb::head) {
         Reply reply = refusal(http::status::method_not_allowed);
@@ -139,7 +140,7 @@ Reply FilePolicy::answerAnyMethod(const Request& request)
     const std::string_view host = takeHost(request, target);
     if (host.empty() || request.count(http::field::host) > 1)
         return refusal(http::status::bad_request);
-    if (!isOwnHost(host))
+    if (!isOwnHost(host, reachedAt))
         return refusal(http::status::misdirected_request);
     return answerPath(request, target);
 }

@@ -4,6 +4,8 @@
 #include "preview_server/Reply.h"
 #include "preview_server/ServedFolder.h"
 
+#include <boost/asio/ip/address.hpp>
+
 namespace leafcast::preview {
 
 struct Validators;
@@ -20,10 +22,11 @@ public:
     {
     }
 
-    Reply answer(const Request& request);
+    /// reachedAt: the address of this machine that the request came to.
+    Reply answer(const Request& request, const boost::asio::ip::address& reachedAt);
 
 private:
-    Reply answerAnyMethod(const Request& request);
+    Reply answerAnyMethod(const Request& request, const boost::asio::ip::address& reachedAt);
     Reply answerPath(const Request& request, std::string_view target);
     Reply answerFile(const Request& request, ServedFile& file);
 

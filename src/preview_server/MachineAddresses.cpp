@@ -122,12 +122,14 @@ std::vector<ip::address> machineAddresses()
     return addresses;
 }
 
-bool isOwnHost(std::string_view host)
+bool isOwnHost(std::string_view host, const ip::address& reachedAt)
 {
     const std::string name(withoutPort(host));
     boost::system::error_code noAddress;
     const ip::address address = ip::make_address(name, noAddress);
-    return noAddress ? isOwnName(name) : isOwnAddress(address);
+    if (noAddress)
+        return isOwnName(name);
+    return address == reachedAt || isOwnAddress(address);
 }
 
 } // namespace leafcast::preview

@@ -15,7 +15,8 @@ std::vector<boost::asio::ip::address> machineAddresses();
 
 /// Whether a Host field or the authority of a target, with or without a port, is an address of
 /// this machine or a name that it gives itself. A page of a stranger's server whose name was made
-/// to resolve to us (DNS rebinding) is told apart by that.
-bool isOwnHost(std::string_view host);
+/// to resolve to us (DNS rebinding) is told apart by that. reachedAt is one of the addresses, known
+/// without asking the system for them all, which takes longer than answering.
+bool isOwnHost(std::string_view host, const boost::asio::ip::address& reachedAt);
 
 } // namespace leafcast::preview

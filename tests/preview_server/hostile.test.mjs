@@ -94,6 +94,15 @@ describe('the preview server asked by somebody hostile', () => {
 
   it('gives nothing from outside the folder', () => check(PATHS, (target) => get(target)));
   it('answers for the names of its machine only', () => check(HOSTS, (host) => get('/', `Host: ${host}\r\n`)));
+  it('answers at each of its addresses for all of them', async () => {
+    const hosts = server.addresses.map((address) => new URL(address).host);
+    for (const host of hosts) {
+      const at = new URL(`http://${host}`).hostname.replace(/[[\]]/g, '');
+      for (const named of hosts) assert.deepEqual(statusesOf(await exchange(server.port, get('/', `Host: ${named}\r\n`), at)), [200], `${named} at ${at}`);
+      assert.deepEqual(statusesOf(await exchange(server.port, get('/', 'Host: 192.0.2.255\r\n'), at)), [421], at);
+    }
+  });
+
   it('answers a message once, or refuses it', () => check(MESSAGES, (message) => message));
 
   it('opens no device', async () => {
