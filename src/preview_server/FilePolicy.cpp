@@ -16,7 +16,7 @@ namespace ip = boost::asio::ip;
 
 namespace {
 
-    constexpr std::string_view Scheme = "http://";
+    constexpr boost::beast::string_view Scheme = "http://";
 
     std::string_view view(boost::beast::string_view text)
     {
@@ -24,14 +24,17 @@ namespace {
     }
 
     // The authority of a target in absolute form beats the Host field (RFC 9112, 3.2.2). Leaves the
-    // path in the target.
+    // path in the target, which is the root when there is none.
     std::string_view takeHost(const Request& request, std::string_view& target)
     {
-        if (!target.starts_with(Scheme))
+        const std::string_view start = target.substr(0, Scheme.size());
+        if (!boost::beast::iequals({ start.data(), start.size() }, Scheme))
             return view(request[http::field::host]);
         target.remove_prefix(Scheme.size());
         const std::string_view host = target.substr(0, target.find_first_of("/?#"));
         target.remove_prefix(host.size());
+        if (!target.starts_with('/'))
+            target = "/";
         return host;
     }
 

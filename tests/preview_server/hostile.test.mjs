@@ -13,7 +13,7 @@ const HOST = 'Host: localhost\r\n';
 const get = (target, fields = HOST) => `GET ${target} HTTP/1.1\r\n${fields}\r\n`;
 
 const PATHS = {
-  200: ['/', '/index.html', '/index%2ehtml?/../x#/..', '//index.html', '/%69ndex.html', 'http://localhost/', 'http://LOCALHOST:1/?x'],
+  200: ['/', '/index.html', '/index%2ehtml?/../x#/..', '//index.html', '/%69ndex.html', 'http://localhost/', 'http://LOCALHOST:1/?x', 'HTTP://localhost/', 'http://localhost', 'http://localhost?/../x'],
   400: ['secret.txt', '../secret.txt', '*', '/%', '/%4', '/%zz', '/%-1', '/a b', '/\0', '/\x7f', 'file:///etc/passwd', 'https://localhost/', 'localhost:80'],
   404: [
     '/../secret.txt', '/./index.html', '/x/../../secret.txt', '/../book/index.html', '/..', '/../', '/...',
