@@ -6,6 +6,7 @@
 #include "cli/ExitCode.h"
 #include "cli/OutputPlace.h"
 #include "publish/FlashBookOutput.h"
+#include "templates/PropertyWalk.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -39,22 +40,35 @@ namespace {
             && first.st_dev == second.st_dev;
     }
 
-    qint64 bytesForBook(const FlashBookOutput& writer)
+    qint64 bytesBesidePages(const FlashBookOutput& writer)
     {
         qint64 needed = roomForTheRest;
+        for (const auto& companion : writer.companions())
+            needed += QFileInfo(companion.source).size();
+        forEachProperty(writer.flashTemplate()->properties(), [&needed](const auto& property) {
+            if (property.propertyType() == pt_file && !property.value().isEmpty())
+                needed += QFileInfo(property.value()).size();
+        });
+        return needed;
+    }
+
+    qint64 bytesForBook(const FlashBookOutput& writer)
+    {
+        const qint64 besidePages = bytesBesidePages(writer);
+        qint64 needed = besidePages;
         qint64 largest = 0; // a picture is written beside the one that it replaces
         for (const auto& page : writer.flashPageSource()->normalPages()) {
             const qint64 size = QFileInfo(page->pageFilePath()).size();
             needed += size - QFileInfo(writer.pageFileName(*page)).size();
             largest = std::max(largest, size);
         }
-        return std::max(needed, roomForTheRest) + largest;
+        return std::max(needed, besidePages) + largest;
     }
 
     // An older archive goes only when the new one is there.
     qint64 bytesForArchive(const FlashBookOutput& writer)
     {
-        qint64 needed = roomForTheRest;
+        qint64 needed = bytesBesidePages(writer);
         for (const auto& page : writer.flashPageSource()->normalPages())
             needed += QFileInfo(page->pageFilePath()).size();
         return needed;

@@ -5,6 +5,8 @@
 
 #include <QJsonArray>
 #include <QProcess>
+#include <QStorageInfo>
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -158,6 +160,22 @@ TEST_F(PublishFailure, OutputsThatCannotBeWritten)
     EXPECT_EQ(run({ u"publish"_s, u"in.pdf"_s, u""_s }).status, 2);
     expectFailure("in.pdf book --log-file file/log", 4, { "file/log" });
     EXPECT_EQ(content("file"), "kept");
+}
+
+TEST_F(PublishFailure, BooksThatTheDiskHasNoRoomForWithTheFilesOfTheirSettings)
+{
+    writeNumberedPDF(u"in.pdf"_s, 1);
+    QFile logo(at(u"logo.png"_s));
+    ASSERT_TRUE(logo.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(logo.resize(QStorageInfo(iFolder.path()).bytesAvailable() + (qint64{ 1 } << 30)));
+
+    rlimit earlier{};
+    getrlimit(RLIMIT_FSIZE, &earlier);
+    const rlimit small{ .rlim_cur = 1 << 24, .rlim_max = earlier.rlim_max };
+    setrlimit(RLIMIT_FSIZE, &small); // a failure of this test is not to fill the disk
+    expectFailure(
+        "in.pdf book --set LogoFile=" + logo.fileName().toUtf8(), 4, { "no room", "book" });
+    setrlimit(RLIMIT_FSIZE, &earlier);
 }
 
 TEST_F(PublishFailure, InputsThatTheOutputWouldReplace)
