@@ -7,6 +7,7 @@ import { FaceCache } from './faceCache.ts';
 import { type Box, clamp, type Point, type Size } from './geometry.ts';
 import type { Quality } from './governor.ts';
 import { type Layout, layoutBook, type Mode } from './layout.ts';
+import type { PaintedFace } from './leafPainter.ts';
 import { PageEdges } from './pageEdges.ts';
 import { type PictureRequest, Pictures } from './pictures.ts';
 import { type PlacedPage, SharpView } from './sharpView.ts';
@@ -45,7 +46,7 @@ export type Side = 'start' | 'end';
 const RADIANS_OF_A_TURN = 9.5;
 const SPREADS_AHEAD = 2;
 const SPREADS_BEHIND = 1;
-const FULL: Quality = { fullPixels: true, stripsPerQuarter: 8 };
+const FULL: Quality = { fullPixels: true, stripsPerQuarter: 5 };
 
 /**
  * The open book: two resting sides and the leaves in the air, in a sheet that zooming scales. Knows
@@ -414,7 +415,7 @@ export class BookView {
     return leaf.from === 0 || (closesAtEnd && leaf.to === this.spreads.length - 1);
   }
 
-  private painted(face: Face | undefined, side: Side, ratio: number): HTMLCanvasElement {
+  private painted(face: Face | undefined, side: Side, ratio: number): PaintedFace {
     const key = `${side} ${face?.place} ${face?.part}`;
     return this.faces.painted(key, this.layout.leaf, ratio, (context, leaf) => {
       if (this.options.rightToLeft) context.transform(-1, 0, 0, 1, leaf.width, 0);

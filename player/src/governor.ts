@@ -7,8 +7,8 @@ export interface Quality {
 }
 
 const LEVELS: readonly Quality[] = [
-  { fullPixels: true, stripsPerQuarter: 8 },
-  { fullPixels: false, stripsPerQuarter: 8 },
+  { fullPixels: true, stripsPerQuarter: 5 },
+  { fullPixels: false, stripsPerQuarter: 5 },
   { fullPixels: false, stripsPerQuarter: 3 },
   { fullPixels: false, stripsPerQuarter: 0 },
 ];

@@ -7,11 +7,17 @@ import { type Outline, partOf, path, trace } from './outline.ts';
 /** Draws one side of a leaf: the leaf's box from (0, 0), as a reader sees it lying flat. */
 export type FacePainter = (context: CanvasRenderingContext2D, leaf: Size) => void;
 
-/** The sides of a leaf as pictures of its whole box, with any number of pixels. */
+/** A side of a leaf: a picture of its whole box with any number of pixels, and the same as a colour. */
+export interface PaintedFace {
+  readonly picture: HTMLCanvasElement;
+  /** Made once, because making it copies the picture. */
+  readonly paper: CanvasPattern;
+}
+
 export interface LeafFaces {
   /** The end side, seen before the turn, and the start side, seen after it. */
-  readonly front: HTMLCanvasElement;
-  readonly back: HTMLCanvasElement;
+  readonly front: PaintedFace;
+  readonly back: PaintedFace;
 }
 
 /** On which sides other paper lies below, where a shadow can fall. */
@@ -48,8 +54,8 @@ export function paintLeaf(
   quality: PaintQuality,
 ): void {
   paintShadowOnGround(context, leaf, curl, ground);
-  const front = patternOf(context, faces.front, leaf, false);
-  const back = patternOf(context, faces.back, leaf, true);
+  const front = laidOn(leaf, faces.front, false);
+  const back = laidOn(leaf, faces.back, true);
   fillPart(context, front, partOf(leaf, curl, -Infinity, SEAM));
   const perQuarter = curl.radius > 0 ? quality.stripsPerQuarter : 0;
   const rolled = perQuarter > 0 ? curl : sharp(curl);
@@ -80,16 +86,10 @@ function sharp(curl: Curl): Curl {
  * A face as the colour of the paper, in leaf coordinates. Filling an outline with it is far cheaper
  * than clipping to the outline and drawing the face.
  */
-function patternOf(
-  context: CanvasRenderingContext2D,
-  face: HTMLCanvasElement,
-  leaf: Size,
-  isBack: boolean,
-): CanvasPattern {
-  const pattern = context.createPattern(face, 'no-repeat')!;
-  const [across, down] = [leaf.width / face.width, leaf.height / face.height];
-  pattern.setTransform(isBack ? { a: -across, d: down, e: leaf.width } : { a: across, d: down });
-  return pattern;
+function laidOn(leaf: Size, { picture, paper }: PaintedFace, isBack: boolean): CanvasPattern {
+  const [across, down] = [leaf.width / picture.width, leaf.height / picture.height];
+  paper.setTransform(isBack ? { a: -across, d: down, e: leaf.width } : { a: across, d: down });
+  return paper;
 }
 
 function fillPart(context: CanvasRenderingContext2D, paper: CanvasPattern, outline: Outline): void {
@@ -125,11 +125,25 @@ function paintShading(
   showsBack: boolean,
 ): void {
   const shown = all.filter((strip) => strip.showsBack === showsBack);
-  if (shown.length === 0) return;
+  // What lies flat has one shade, which is filled much faster than a gradient.
+  const end = Math.PI * curl.radius;
+  const flat = shown.filter((strip) => strip.from >= end * 0.999);
+  const rolled = shown.filter((strip) => !flat.includes(strip));
+  if (rolled.length > 0) fillSeen(context, leaf, curl, rolled, shading(context, curl, showsBack));
+  fillSeen(context, leaf, curl, flat, lightAt(Math.PI));
+}
+
+function fillSeen(
+  context: CanvasRenderingContext2D,
+  leaf: Size,
+  curl: Curl,
+  parts: readonly Strip[],
+  style: string | CanvasGradient,
+): void {
   context.beginPath();
-  for (const strip of shown)
-    trace(context, partOf(leaf, curl, strip.from, strip.to).map((point) => seenAt(point, curl)));
-  context.fillStyle = curl.radius > 0 ? shading(context, curl, showsBack) : lightAt(Math.PI);
+  for (const { from, to } of parts)
+    trace(context, partOf(leaf, curl, from, to).map((point) => seenAt(point, curl)));
+  context.fillStyle = style;
   context.fill();
 }
 

@@ -33,7 +33,7 @@ export function paintStiffLeaf(
     context.rect(from, 0, width + 0.5 / Math.max(Math.abs(opening), 0.05), leaf.height);
     context.clip();
     if (!showsFront) context.transform(-1, 0, 0, 1, leaf.width, 0);
-    context.drawImage(showsFront ? faces.front : faces.back, 0, 0, leaf.width, leaf.height);
+    context.drawImage((showsFront ? faces.front : faces.back).picture, 0, 0, leaf.width, leaf.height);
     context.fillStyle = `rgba(0, 0, 0, ${(SHADE_OF_UPRIGHT * upright).toFixed(3)})`;
     context.fillRect(0, 0, leaf.width, leaf.height);
     context.restore();
