@@ -29,7 +29,7 @@ namespace {
 
     constexpr size_t MostHeaderBytes = size_t{ 16 } << 10;
     constexpr size_t ReadSize = 1024; // a browser's header fits
-    constexpr size_t MostFarewellBytes = size_t{ 64 } << 10;
+    constexpr size_t MostFarewellBytes = size_t{ 4 } << 20;
     constexpr int64_t MostBytesAtOnce = int64_t{ 1 }
         << 20; // then other connections have their turn
 
