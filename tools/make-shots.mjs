@@ -21,6 +21,10 @@ const PLACE = 4;
 async function shoot(browser, book, file, viewport = WINDOW, deviceScaleFactor = SHOT_WIDTH / WINDOW.width) {
   const page = await browser.newPage({ viewport, deviceScaleFactor, reducedMotion: 'reduce' });
   await page.goto(`${pathToFileURL(join(book, 'index.html'))}#page/${PLACE}`);
+  await page.waitForFunction(() => {
+    const sides = [...document.querySelectorAll('.side:not([hidden])')];
+    return sides.length > 0 && sides.every((side) => side.dataset.drawn);
+  });
   await page.waitForLoadState('networkidle');
   await page.screenshot({ path: file, type: 'jpeg', quality: 86 });
   await page.close();

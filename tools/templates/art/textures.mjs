@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+// Textures that repeat without a seam, as functions from a pixel to its colour.
+
+const mix = (from, to, share) => from.map((channel, index) => channel + (to[index] - channel) * share);
+const rgb = (hex) => [1, 3, 5].map((at) => parseInt(hex.slice(at, at + 2), 16));
+const smooth = (t) => t * t * (3 - 2 * t);
+const wrapped = (value, period) => ((value % period) + period) % period;
+
+/** From -1 to 1, the same for the same three whole numbers. */
+function scattered(x, y, seed) {
+  let bits = Math.imul(x, 0x27d4eb2d) ^ Math.imul(y, 0x165667b1) ^ Math.imul(seed + 1, 0x9e3779b1);
+  bits = Math.imul(bits ^ (bits >>> 15), 0x85ebca6b);
+  bits = Math.imul(bits ^ (bits >>> 13), 0xc2b2ae35);
+  return ((bits ^ (bits >>> 16)) >>> 0) / 0x80000000 - 1;
+}
+
+/** Smooth noise from -1 to 1; x and y in cells, of which so many lie across and down a tile. */
+function noise(x, y, across, down, seed) {
+  const [left, top] = [Math.floor(x), Math.floor(y)];
+  const at = (dx, dy) => scattered(wrapped(left + dx, across), wrapped(top + dy, down), seed);
+  const [toRight, toBottom] = [smooth(x - left), smooth(y - top)];
+  const upper = at(0, 0) + (at(1, 0) - at(0, 0)) * toRight;
+  const lower = at(0, 1) + (at(1, 1) - at(0, 1)) * toRight;
+  return upper + (lower - upper) * toBottom;
+}
+
+/** A layer of noise over a tile; u and v run from 0 to 1. */
+const layer = (across, down, seed) => (u, v) => noise(u * across, v * down, across, down, seed);
+
+const PLANKS = 4;
+const PLANK_LENGTHS = [0.19, 0.62, 0.36, 0.84]; // where a plank ends, of the tile's width
+
+/** Planks of oak, four to a tile; the grain runs across. */
+export function wood(u, v) {
+  const plank = Math.floor(v * PLANKS);
+  const within = v * PLANKS - plank;
+  const end = Math.abs(u - PLANK_LENGTHS[plank]);
+  const board = plank * 2 + (u > PLANK_LENGTHS[plank] ? 1 : 0);
+  const bend = 1.6 * layer(3, 3 * PLANKS, 7)(u, v) + 0.5 * layer(9, 5 * PLANKS, 11)(u, v);
+  const rings = Math.sin((within * 5 + bend + board * 1.7) * 2 * Math.PI);
+  const grain = layer(14, 96 * PLANKS, 3)(u, v) * 0.6 + layer(60, 160 * PLANKS, 5)(u, v) * 0.4;
+  const light = 0.5 + rings * 0.1 + grain * 0.22 + scattered(board, 1, 2) * 0.17;
+  const gap = Math.max(0, 1 - (Math.min(within, 1 - within) / 0.016)) + Math.max(0, 1 - end / 0.0016);
+  return mix(mix(rgb('#6d4a2d'), rgb('#a87a4e'), light), rgb('#2c1a0e'), Math.min(gap, 1) * 0.8);
+}
+
+/** Cloth of short wool, combed in no direction. */
+export function felt(u, v) {
+  const fluff = layer(6, 6, 1)(u, v) * 0.25 + layer(48, 48, 2)(u, v) * 0.4 + layer(110, 110, 3)(u, v) * 0.5;
+  const fibre = layer(20, 140, 4)(u, v) * 0.35 + layer(140, 20, 5)(u, v) * 0.35;
+  return mix(rgb('#1c5a3d'), rgb('#2f7a56'), 0.5 + (fluff + fibre) * 0.42);
+}
+
+/** Rough white paper. */
+export function paper(u, v) {
+  const tooth = layer(64, 64, 1)(u, v) * 0.5 + layer(120, 120, 2)(u, v) * 0.5;
+  const fibre = Math.max(0, layer(12, 90, 3)(u, v) - 0.55) + Math.max(0, layer(90, 12, 4)(u, v) - 0.55);
+  return mix(rgb('#efeeeb'), rgb('#fbfaf8'), 0.5 + tooth * 0.4 - fibre * 0.5);
+}
+
+/** The texture as the text of a BMP image's address. */
+export function bitmapAddress(texture, width, height) {
+  const pixels = Buffer.alloc(54 + width * height * 3); // widths that are multiples of four need no padding
+  pixels.write('BM');
+  pixels.writeUInt32LE(pixels.length, 2);
+  [54, 40, width, height].forEach((value, index) => pixels.writeUInt32LE(value, 10 + index * 4));
+  pixels.writeUInt16LE(1, 26);
+  pixels.writeUInt16LE(24, 28);
+  for (let y = 0; y < height; y++)
+    for (let x = 0; x < width; x++) {
+      const [red, green, blue] = texture((x + 0.5) / width, (y + 0.5) / height);
+      const at = 54 + ((height - 1 - y) * width + x) * 3; // rows run from the bottom up
+      pixels.set([blue, green, red].map((channel) => Math.max(0, Math.min(255, Math.round(channel)))), at);
+    }
+  return `data:image/bmp;base64,${pixels.toString('base64')}`;
+}
