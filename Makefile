@@ -2,13 +2,13 @@
 # The front door. Each target sets up what it needs first; a second run finds it there.
 SHELL := /bin/bash
 .DEFAULT_GOAL := help
-.PHONY: help demo test asan bench samples shots lint format install clean
+.PHONY: help demo test asan bench bench-player samples shots lint format install clean
 
 DEMO_BOOK := build/demo-book
 PREFIX ?= /usr/local
 
 help: ## Show the targets
-	@awk -F ':.*## ' '/^[a-z]+:.*## / { printf "  make %-8s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
+	@awk -F ':.*## ' '/^[a-z-]+:.*## / { printf "  make %-12s %s\n", $$1, $$2 }' $(MAKEFILE_LIST)
 
 demo: ## Set up, build, and turn the sample PDF into a book
 	@tools/setup build
@@ -35,6 +35,11 @@ bench: ## Measure speed, memory and size beside other programs
 	@tools/setup bench
 	@tools/build release
 	@bench/run
+
+bench-player: ## Measure the player beside others, against its budgets
+	@tools/setup bench-player
+	@tools/build release
+	@node bench/player/run.mjs
 
 samples: ## Make the sample magazine, the first book's pages, the templates, their pictures and the icon anew
 	@tools/setup samples
