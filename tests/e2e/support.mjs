@@ -51,7 +51,11 @@ export async function openBookAt(browser, home, { width = 1280, height = 800, ha
   page.troubles = [];
   page.on('console', (message) => message.type() === 'error' && page.troubles.push(message.text()));
   page.on('pageerror', (error) => page.troubles.push(error.message));
-  page.on('requestfailed', (request) => page.troubles.push(`failed: ${request.url()}`));
+  page.on('requestfailed', (request) => {
+    // A jump gives up the pictures that were under way.
+    const { errorText } = request.failure();
+    if (errorText !== 'net::ERR_ABORTED') page.troubles.push(`${errorText}: ${request.url()}`);
+  });
   page.on('response', (response) => response.status() >= 400 && page.troubles.push(`${response.status()}: ${response.url()}`));
   page.on('request', (request) => {
     if (!/^(data|blob):/.test(request.url()) && !request.url().startsWith(home)) page.troubles.push(`foreign: ${request.url()}`);
