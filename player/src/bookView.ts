@@ -13,6 +13,7 @@ import { type PictureRequest, Pictures } from './pictures.ts';
 import { type PlacedPage, SharpView } from './sharpView.ts';
 import { arrange, type Face, placesOf, type Spread, spreadOf } from './spreads.ts';
 import { type FlyingLeaf, Turning } from './turning.ts';
+import type { View, ViewEvents } from './view.ts';
 import { keptInSight, NO_ZOOM, seenBox, type Zoom } from './zoom.ts';
 
 export interface ViewOptions {
@@ -24,20 +25,6 @@ export interface ViewOptions {
   readonly hardCovers: boolean;
   readonly pageEdges: boolean;
   readonly wheelTurns: boolean;
-}
-
-export interface ViewEvents {
-  /** Other pages will lie open when all has landed. */
-  turned(places: readonly number[]): void;
-  /** They lie open. */
-  settled(places: readonly number[]): void;
-  /** Places or sizes of pages on the screen changed. */
-  placed(pages: readonly PlacedPage[]): void;
-  zoomed(zoom: Zoom): void;
-  /** A page's picture came, or could not be loaded. */
-  pictured(place: number): void;
-  /** The reader asked for a page by the book itself. */
-  jumpAsked(place: number): void;
 }
 
 export type Side = 'start' | 'end';
@@ -52,7 +39,7 @@ const FULL: Quality = { fullPixels: true, stripsPerQuarter: 5 };
  * The open book: two resting sides and the leaves in the air, in a sheet that zooming scales. Knows
  * places and spreads; what hands, keys and addresses do to it is said by its methods.
  */
-export class BookView {
+export class BookView implements View {
   readonly sheet = document.createElement('div');
   private readonly sides: Record<Side, HTMLCanvasElement> = { start: makeCanvas('side'), end: makeCanvas('side') };
   private readonly air = new AirView();

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 import type { Book } from './book.ts';
-import { BookView } from './bookView.ts';
 import { Emitter } from './emitter.ts';
-import { Hands } from './hands.ts';
 import type { Mode } from './layout.ts';
 import type { Settings } from './settings.ts';
 import type { PlacedPage } from './sharpView.ts';
+import type { View } from './view.ts';
+import { makeView } from './views.ts';
 import type { Zoom } from './zoom.ts';
 import { zoomAbout } from './zoom.ts';
 
@@ -23,14 +23,12 @@ export interface ReaderEvents {
   jumped: { readonly from: number; readonly to: number };
 }
 
-const PAPER_INK = 'rgba(0, 0, 0, 0.32)';
-
 /**
  * The book in a reader's hands: everything that buttons, keys, addresses and panels ask for or
  * want to know. Pages are named by their place, from 1.
  */
 export class Reader extends Emitter<ReaderEvents> {
-  private readonly view: BookView;
+  private readonly view: View;
 
   constructor(
     stage: HTMLElement,
@@ -39,7 +37,6 @@ export class Reader extends Emitter<ReaderEvents> {
     place: number,
   ) {
     super();
-    const options = { ...settings, paper: { colour: settings.paperColour, ink: PAPER_INK } };
     const events = {
       turned: (places: readonly number[]) => this.emit('turned', places),
       settled: (places: readonly number[]) => this.emit('settled', places),
@@ -48,8 +45,7 @@ export class Reader extends Emitter<ReaderEvents> {
       pictured: (place: number) => this.emit('pictured', place),
       jumpAsked: (to: number) => this.goTo(to),
     };
-    this.view = new BookView(stage, book, options, events, this.within(place));
-    new Hands(this.view);
+    this.view = makeView(stage, book, settings, events, this.within(place));
   }
 
   /** What pages lie on; layers over them go into it, so that they are zoomed along. */
@@ -85,12 +81,12 @@ export class Reader extends Emitter<ReaderEvents> {
     return this.view.turn(-1);
   }
 
-  /** A jump that the back button undoes. */
-  goTo(place: number): void {
+  /** A jump that the back button undoes, to a page or to what lies at a fraction of its height. */
+  goTo(place: number, top?: number): void {
     const to = this.within(place);
-    if (this.places.includes(to)) return;
+    if (this.places.includes(to)) return this.view.reveal?.(to, top);
     this.emit('jumped', { from: this.place, to });
-    this.view.goTo(to);
+    this.view.goTo(to, top);
   }
 
   /** Without a trace in the history. */
@@ -99,7 +95,7 @@ export class Reader extends Emitter<ReaderEvents> {
   }
 
   setMode(mode: Mode): void {
-    this.view.setMode(mode);
+    this.view.setMode?.(mode);
   }
 
   /** A cross-fade takes the place of the turn. */

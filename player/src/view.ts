@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+import type { Mode } from './layout.ts';
+import type { PlacedPage } from './sharpView.ts';
+import type { Zoom } from './zoom.ts';
+
+/** How pages are shown: as a book whose leaves turn, one at a time, or below each other. */
+export type ViewKind = 'book' | 'slide' | 'scroll';
+
+export const viewKind = (name: string | undefined): ViewKind => (name === 'slide' || name === 'scroll' ? name : 'book');
+
+export interface ViewEvents {
+  /** Other pages will lie open when all has landed. */
+  turned(places: readonly number[]): void;
+  /** They lie open. */
+  settled(places: readonly number[]): void;
+  /** Places or sizes of pages on the screen changed. */
+  placed(pages: readonly PlacedPage[]): void;
+  zoomed(zoom: Zoom): void;
+  /** A page's picture came, or could not be loaded. */
+  pictured(place: number): void;
+  /** The reader asked for a page by the book itself. */
+  jumpAsked(place: number): void;
+}
+
+/** The pages on the stage. It tells of what happens to it by its `ViewEvents`. */
+export interface View {
+  readonly host: HTMLElement;
+  /** What pages lie on; layers over them go into it. */
+  readonly sheet: HTMLElement;
+  /** Of the pages that lie open, or will when all has landed, in reading order. */
+  readonly places: readonly number[];
+  readonly place: number;
+  readonly isDouble: boolean;
+  readonly zoom: Zoom;
+  /** Goes on or back by so many steps; answers whether there was any to go. */
+  turn(count: number): boolean;
+  /** `top` is what is to be seen of the page, as a fraction of its height. */
+  goTo(place: number, top?: number): void;
+  /** As `goTo`, for an open page where that may be partly out of sight. */
+  reveal?(place: number, top?: number): void;
+  /** Where pages can lie side by side. */
+  setMode?(mode: Mode): void;
+  setReducedMotion(reduced: boolean): void;
+  setZoom(zoom: Zoom): void;
+  hasFailed(place: number): boolean;
+  retry(place: number): void;
+}

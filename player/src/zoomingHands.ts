@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+import { type Point, subtract } from './geometry.ts';
+import { type GestureHandler, Gestures } from './gestures.ts';
+import { panBy, type Zoom, zoomAbout } from './zoom.ts';
+
+const DOUBLE_TAP_SCALE = 2.5;
+const WHEEL_ZOOM = 0.0022; // of the scale's logarithm, for a pixel of the wheel
+const WHEEL_TURN = 60; // pixels of the wheel that turn a page
+const WHEEL_PAUSE_MILLISECONDS = 260;
+const LINE_PIXELS = 16;
+/** A stroke so long turns a page, when nothing else tells what it means. */
+export const SWIPE_PIXELS = 48;
+
+export interface Drag {
+  readonly move: (to: Point) => unknown;
+  readonly end: (velocity: Point) => unknown;
+  readonly cancel: () => unknown;
+}
+
+/** What hands need of a view. */
+export interface Handled {
+  readonly host: HTMLElement;
+  readonly zoom: Zoom;
+  readonly options: { readonly wheelTurns: boolean; readonly rightToLeft: boolean };
+  setZoom(zoom: Zoom): void;
+  turn(count: number): boolean;
+}
+
+/** What hands do to every view whose pages turn: they zoom it, pan it while it is zoomed, and turn by the wheel. */
+export abstract class ZoomingHands<Kind extends Handled> implements GestureHandler {
+  private current: Drag | undefined;
+  private pinch: { readonly zoom: Zoom; readonly middle: Point } | undefined;
+  private wheel = 0;
+  private wheelTime = 0;
+
+  constructor(protected readonly view: Kind) {
+    new Gestures(view.host, this);
+    view.host.addEventListener('wheel', (event) => this.onWheel(event), { passive: false });
+  }
+
+  /** What a drag does to pages that are not zoomed. */
+  protected abstract grab(from: Point, direction: Point): Drag | undefined;
+
+  abstract tap(at: Point): void;
+
+  dragStart(from: Point, direction: Point): boolean {
+    this.current = this.view.zoom.scale > 1 ? this.pan(from) : this.grab(from, direction);
+    return this.current !== undefined;
+  }
+
+  dragMove(to: Point): void {
+    this.current?.move(to);
+  }
+
+  dragEnd(velocity: Point): void {
+    this.current?.end(velocity);
+    this.current = undefined;
+  }
+
+  dragCancel(): void {
+    this.current?.cancel();
+    this.current = undefined;
+  }
+
+  doubleTap(at: Point): void {
+    toggleZoom(this.view, at);
+  }
+
+  pinchStart(middle: Point): void {
+    this.pinch = { zoom: this.view.zoom, middle };
+  }
+
+  pinchMove(factor: number, middle: Point): void {
+    if (!this.pinch) return;
+    const { zoom, middle: start } = this.pinch;
+    const moved = panBy(zoom, subtract(middle, start));
+    this.view.setZoom(zoomAbout(moved, middle, zoom.scale * factor));
+  }
+
+  pinchEnd(): void {
+    this.pinch = undefined;
+    // Hardly zoomed is not zoomed: a pinch seldom ends where it began.
+    const { zoom } = this.view;
+    if (Math.abs(zoom.scale - 1) < 0.08) this.view.setZoom(zoomAbout(zoom, { x: 0, y: 0 }, 1));
+  }
+
+  /** Where nothing is to follow the finger, the swipe alone turns. */
+  protected swipe(from: Point, direction: Point): Drag | undefined {
+    if (Math.abs(direction.x) <= Math.abs(direction.y)) return undefined;
+    let moved = 0;
+    const forward = this.view.options.rightToLeft ? 1 : -1;
+    return {
+      move: (to) => (moved = to.x - from.x),
+      end: () => Math.abs(moved) > SWIPE_PIXELS && this.view.turn(Math.sign(moved) * forward),
+      cancel: () => {},
+    };
+  }
+
+  private pan(from: Point): Drag {
+    const { zoom } = this.view;
+    const to = (point: Point) => this.view.setZoom(panBy(zoom, subtract(point, from)));
+    return { move: to, end: () => {}, cancel: () => this.view.setZoom(zoom) };
+  }
+
+  private onWheel(event: WheelEvent): void {
+    const { zoom, options } = this.view;
+    // What is not used here scrolls the page around the book.
+    if (!event.ctrlKey && zoom.scale <= 1 && !options.wheelTurns) return;
+    event.preventDefault();
+    const unit = wheelUnit(event);
+    if (event.ctrlKey) zoomByWheel(this.view, event);
+    else if (zoom.scale > 1) this.view.setZoom(panBy(zoom, { x: -event.deltaX * unit, y: -event.deltaY * unit }));
+    else this.turnByWheel((event.deltaY || event.deltaX) * unit, event.timeStamp);
+  }
+
+  /** One page a push of the wheel, however long a touch pad lets it run on. */
+  private turnByWheel(pixels: number, time: number): void {
+    if (time - this.wheelTime < WHEEL_PAUSE_MILLISECONDS && this.wheel === Infinity) {
+      this.wheelTime = time;
+      return;
+    }
+    if (time - this.wheelTime > WHEEL_PAUSE_MILLISECONDS) this.wheel = 0;
+    this.wheel += pixels;
+    this.wheelTime = time;
+    if (Math.abs(this.wheel) < WHEEL_TURN) return;
+    this.view.turn(Math.sign(this.wheel));
+    this.wheel = Infinity;
+  }
+}
+
+type Zoomable = Pick<Handled, 'host' | 'zoom' | 'setZoom'>;
+
+export function toggleZoom(view: Zoomable, at: Point): void {
+  view.setZoom(zoomAbout(view.zoom, at, view.zoom.scale === 1 ? DOUBLE_TAP_SCALE : 1));
+}
+
+export function zoomByWheel(view: Zoomable, event: WheelEvent): void {
+  const { left, top } = view.host.getBoundingClientRect();
+  const at = { x: event.clientX - left, y: event.clientY - top };
+  const factor = Math.exp(-event.deltaY * wheelUnit(event) * WHEEL_ZOOM);
+  view.setZoom(zoomAbout(view.zoom, at, view.zoom.scale * factor));
+}
+
+const wheelUnit = ({ deltaMode }: WheelEvent): number => (deltaMode === WheelEvent.DOM_DELTA_LINE ? LINE_PIXELS : 1);
