@@ -8,6 +8,9 @@ const WHEEL_ZOOM = 0.0022; // of the scale's logarithm, for a pixel of the wheel
 const WHEEL_TURN = 60; // pixels of the wheel that turn a page
 const WHEEL_PAUSE_MILLISECONDS = 260;
 const LINE_PIXELS = 16;
+/** What a finger could pan no farther than this was at its edge. */
+const EDGE_PIXELS = 12;
+const FAR_PIXELS = 1e6;
 /** A stroke so long turns a page, when nothing else tells what it means. */
 export const SWIPE_PIXELS = 48;
 
@@ -96,10 +99,28 @@ export abstract class ZoomingHands<Kind extends Handled> implements GestureHandl
     };
   }
 
+  /** What is zoomed turns where it is pulled on beyond its edge. */
   private pan(from: Point): Drag {
     const { zoom } = this.view;
-    const to = (point: Point) => this.view.setZoom(panBy(zoom, subtract(point, from)));
-    return { move: to, end: () => {}, cancel: () => this.view.setZoom(zoom) };
+    let pulled: Point = { x: 0, y: 0 };
+    return {
+      move: (to) => {
+        pulled = subtract(to, from);
+        this.view.setZoom(panBy(zoom, pulled));
+      },
+      end: () => {
+        const moved = this.view.zoom.offset.x - zoom.offset.x;
+        const isSideways = Math.abs(pulled.x) > Math.max(SWIPE_PIXELS, Math.abs(pulled.y));
+        if (isSideways && Math.abs(moved) < EDGE_PIXELS) this.turnZoomed(-Math.sign(pulled.x));
+      },
+      cancel: () => this.view.setZoom(zoom),
+    };
+  }
+
+  /** To the right (1) or left (-1); what comes is read from its near edge. */
+  private turnZoomed(side: number): void {
+    if (!this.view.turn(this.view.options.rightToLeft ? -side : side)) return;
+    this.view.setZoom(panBy(this.view.zoom, { x: side * FAR_PIXELS, y: 0 }));
   }
 
   private onWheel(event: WheelEvent): void {

@@ -2,19 +2,10 @@
 import assert from 'node:assert/strict';
 import { after, afterEach, before, describe, it } from 'node:test';
 import { launchBrowser } from '../../tools/browser.mjs';
-import { changedBook, openBook, openPages, publishMagazine, removeBook, scriptWith } from './support.mjs';
+import { changedBook, openBook, openPages, publishMagazine, removeBook, scriptWith, turnWith } from './support.mjs';
+import { fingersOn } from './fingers.mjs';
 
 const position = (page) => page.locator('.page-field .total').textContent();
-
-async function turnWith(page, press) {
-  const before = await openPages(page);
-  await press();
-  await page.waitForFunction((old) => {
-    const shown = [...document.querySelectorAll('.page')].map((each) => Number(each.dataset.place));
-    return document.querySelector('.air').hidden && shown.join() !== old;
-  }, before.join());
-  return openPages(page);
-}
 
 describe('a published book', () => {
   let browser, book;
@@ -74,13 +65,8 @@ describe('a published book', () => {
   it('turns when a finger swipes across, not when it moves down', async () => {
     const page = await open({ hasTouch: true });
     await openPages(page);
-    const fingers = await page.context().newCDPSession(page);
-    const swipe = async (across, down) => {
-      const touch = (type, ...touchPoints) => fingers.send('Input.dispatchTouchEvent', { type, touchPoints });
-      await touch('touchStart', { x: 640, y: 300 });
-      for (const part of [0.25, 0.5, 0.75, 1]) await touch('touchMove', { x: 640 + across * part, y: 300 + down * part });
-      await touch('touchEnd');
-    };
+    const fingers = await fingersOn(page);
+    const swipe = (across, down) => fingers.stroke([640, 300], [640 + across, 300 + down]);
     await swipe(-40, 200);
     assert.deepEqual(await openPages(page), [1]);
     assert.deepEqual(await turnWith(page, () => swipe(-300, 10)), [2, 3]);

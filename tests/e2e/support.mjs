@@ -74,3 +74,38 @@ export async function openPages(page) {
   });
   return page.locator('.page').evaluateAll((pages) => pages.map((each) => Number(each.dataset.place)));
 }
+
+/** Does what turns pages; answers the places that lie open once other ones do. */
+export async function turnWith(page, press) {
+  const before = await openPages(page);
+  await press();
+  await page.waitForFunction((old) => {
+    const shown = [...document.querySelectorAll('.page')].map((each) => Number(each.dataset.place));
+    return document.querySelector('.air').hidden && shown.join() !== old;
+  }, before.join());
+  return openPages(page);
+}
+
+/** What the page field says: the pages that will lie open once all leaves have landed. */
+export const destination = (page) => page.locator('.page-field .field').inputValue();
+
+export const waitForDestination = (page, pages) =>
+  page.waitForFunction((wanted) => document.querySelector('.page-field .field').value === wanted, pages);
+
+/** How the sheet is zoomed: what is laid out at p is seen at p * scale + (x, y). */
+export const zoomOf = (page) =>
+  page.locator('.sheet').evaluate((sheet) => {
+    const { a, e, f } = new DOMMatrix(getComputedStyle(sheet).transform);
+    return { scale: a, x: e, y: f };
+  });
+
+/** The colour of a pixel of the window, as [red, green, blue]. */
+export async function colourAt(page, x, y) {
+  const picture = await page.screenshot({ clip: { x, y, width: 1, height: 1 } });
+  return page.evaluate(async (base64) => {
+    const bytes = Uint8Array.from(atob(base64), (each) => each.charCodeAt(0));
+    const canvas = new OffscreenCanvas(1, 1).getContext('2d');
+    canvas.drawImage(await createImageBitmap(new Blob([bytes])), 0, 0);
+    return [...canvas.getImageData(0, 0, 1, 1).data.slice(0, 3)];
+  }, picture.toString('base64'));
+}

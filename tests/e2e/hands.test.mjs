@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+import assert from 'node:assert/strict';
+import { after, afterEach, before, describe, it } from 'node:test';
+import { launchBrowser } from '../../tools/browser.mjs';
+import { fingersOn } from './fingers.mjs';
+import {
+  changedBook, destination, openBook, openPages, publishMagazine, removeBook, scriptWith, turnWith, waitForDestination, zoomOf,
+} from './support.mjs';
+
+const OPEN_AT = { hash: '#page/4' };
+const inAir = (page) => page.waitForFunction(() => !document.querySelector('.air').hidden);
+
+describe('the book in hands', () => {
+  let browser, quick, slow;
+
+  before(async () => {
+    quick = publishMagazine('--set', 'turnDuration=150');
+    // So slow that a leaf is still in the air whenever a test takes hold of it.
+    slow = changedBook(quick, { files: { 'javascript/main.js': scriptWith(quick, { turnDuration: 60000 }) } });
+    browser = await launchBrowser();
+  });
+
+  afterEach(() => Promise.all(browser.contexts().map((context) => context.close())));
+
+  after(async () => {
+    await browser?.close();
+    [quick, slow].filter(Boolean).forEach(removeBook);
+  });
+
+  async function open(book, options = OPEN_AT) {
+    const page = await openBook(browser, book, options);
+    await openPages(page);
+    // Where the pages lie in the window, and points on them.
+    const [left, right] = [await page.locator('.side').first().boundingBox(), await page.locator('.side').nth(1).boundingBox()];
+    const at = (x, y) => [left.x + x * (right.x + right.width - left.x), left.y + y * left.height];
+    return { page, at };
+  }
+
+  async function openWithFingers(book, options = OPEN_AT) {
+    const opened = await open(book, { ...options, hasTouch: true });
+    return { ...opened, fingers: await fingersOn(opened.page) };
+  }
+
+  describe('a mouse', () => {
+    const drag = async (page, ...points) => {
+      await page.mouse.move(...points[0]);
+      await page.mouse.down();
+      for (const point of points.slice(1)) await page.mouse.move(...point, { steps: 4 });
+    };
+
+    it('drags a corner over, or lets it fall back', async () => {
+      const { page, at } = await open(quick);
+      await drag(page, at(0.98, 0.98), at(0.9, 0.9), at(0.98, 0.95));
+      await inAir(page);
+      await page.mouse.up();
+      assert.deepEqual(await openPages(page), [4, 5]);
+      const over = async (...points) => {
+        await drag(page, ...points);
+        await page.mouse.up();
+      };
+      assert.deepEqual(await turnWith(page, () => over(at(0.98, 0.98), at(0.3, 0.8), at(0.05, 0.95))), [6, 7]);
+      assert.deepEqual(await turnWith(page, () => over(at(0.02, 0.5), at(0.6, 0.5), at(0.95, 0.5))), [4, 5]);
+      assert.deepEqual(page.troubles, []);
+    });
+
+    it('turns by a click on an edge, zooms by a double click elsewhere and back by another', async () => {
+      const { page, at } = await open(quick);
+      assert.deepEqual(await turnWith(page, () => page.mouse.click(...at(0.97, 0.2))), [6, 7]);
+      assert.deepEqual(await turnWith(page, () => page.mouse.click(...at(0.03, 0.2))), [4, 5]);
+      await page.mouse.dblclick(...at(0.3, 0.5));
+      assert.equal((await zoomOf(page)).scale, 2.5);
+      await page.mouse.dblclick(...at(0.3, 0.5));
+      assert.equal((await zoomOf(page)).scale, 1);
+      assert.deepEqual(await openPages(page), [4, 5]);
+    });
+
+    it('turns one page with a push of the wheel, and zooms about itself with Control', async () => {
+      const { page, at } = await open(quick);
+      const [x, y] = at(0.25, 0.5);
+      await page.mouse.move(x, y);
+      assert.deepEqual(await turnWith(page, () => page.mouse.wheel(0, 300)), [6, 7]);
+      await page.keyboard.down('Control');
+      await page.mouse.wheel(0, -300);
+      await page.keyboard.up('Control');
+      await page.waitForFunction(() => document.querySelector('.sheet').style.transform !== '');
+      const zoom = await zoomOf(page);
+      assert.ok(zoom.scale > 1.5);
+      const stage = await page.locator('.stage').boundingBox();
+      const under = (point, start, offset) => (point - start - offset) / zoom.scale;
+      assert.ok(Math.abs(under(x, stage.x, zoom.x) - (x - stage.x)) < 1, 'what lies under the pointer stays there');
+      assert.ok(Math.abs(under(y, stage.y, zoom.y) - (y - stage.y)) < 1);
+    });
+  });
+
+  it('turns five times when a key is pressed five times quickly', async () => {
+    const { page } = await open(quick, {});
+    await page.evaluate(() => {
+      window.seen = new Set();
+      const note = () => document.querySelectorAll('.page').forEach((each) => window.seen.add(Number(each.dataset.place)));
+      new MutationObserver(note).observe(document.querySelector('.pages'), { childList: true });
+    });
+    for (let press = 1; press <= 5; press++) await page.keyboard.press('ArrowRight');
+    await waitForDestination(page, '9');
+    assert.deepEqual(await openPages(page), [9]);
+    const seen = await page.evaluate(() => [...window.seen]);
+    assert.deepEqual([3, 5, 7, 8, 9].filter((place) => !seen.includes(place)), [], 'each leaf lays its next page open');
+    for (let press = 1; press <= 2; press++) await page.keyboard.press('ArrowLeft');
+    await waitForDestination(page, '6–7');
+    assert.deepEqual(await openPages(page), [6, 7]);
+  });
+
+  it('takes hold of a leaf in flight, and lays it on either side', async () => {
+    const { page, at } = await open(slow);
+    const stroke = async (from, to) => {
+      await page.mouse.move(...from);
+      await page.mouse.down();
+      await page.mouse.move(...to, { steps: 5 });
+      await page.mouse.up();
+    };
+    await page.keyboard.press('ArrowRight');
+    await waitForDestination(page, '6–7');
+    await stroke(at(0.6, 0.5), at(0.95, 0.5));
+    await waitForDestination(page, '4–5');
+    await stroke(at(0.95, 0.5), at(0.1, 0.5));
+    await waitForDestination(page, '6–7');
+    assert.equal(await page.locator('.air').isVisible(), true);
+    await page.keyboard.press('ArrowLeft');
+    await waitForDestination(page, '4–5');
+    assert.deepEqual(page.troubles, []);
+  });
+
+  describe('fingers', () => {
+    it('turn by a tap on an edge or a swipe anywhere, and do nothing by a tap in the middle', async () => {
+      const { page, at, fingers } = await openWithFingers(quick);
+      assert.deepEqual(await turnWith(page, () => fingers.tap(...at(0.97, 0.5))), [6, 7]);
+      assert.deepEqual(await turnWith(page, () => fingers.tap(...at(0.03, 0.5))), [4, 5]);
+      await fingers.tap(...at(0.7, 0.7));
+      assert.deepEqual(await openPages(page), [4, 5]);
+      assert.deepEqual(await turnWith(page, () => fingers.stroke(at(0.7, 0.5), at(0.3, 0.52))), [6, 7]);
+      assert.deepEqual(await turnWith(page, () => fingers.stroke(at(0.3, 0.5), at(0.7, 0.52))), [4, 5]);
+    });
+
+    it('turn nothing when a second one makes a pinch of a drag', async () => {
+      const { page, at, fingers } = await openWithFingers(quick);
+      await fingers.down(at(0.97, 0.5));
+      await fingers.along([at(0.97, 0.5)], [at(0.6, 0.5)]);
+      await inAir(page);
+      const [first, second] = [at(0.6, 0.5), at(0.4, 0.5)];
+      await fingers.down(first, second);
+      await fingers.along([first, second], [at(0.75, 0.5), at(0.25, 0.5)]);
+      await fingers.up();
+      assert.ok((await zoomOf(page)).scale > 1.8);
+      await page.locator('.sharp canvas').first().waitFor({ state: 'attached' });
+      assert.deepEqual(await openPages(page), [4, 5]);
+      assert.equal(await destination(page), '4–5');
+    });
+
+    it('drop the leaf where it was when the system takes them away', async () => {
+      const { page, at, fingers } = await openWithFingers(quick);
+      await fingers.down(at(0.97, 0.5));
+      await fingers.along([at(0.97, 0.5)], [at(0.2, 0.5)]);
+      await inAir(page);
+      await fingers.lose();
+      assert.deepEqual(await openPages(page), [4, 5]);
+    });
+
+    it('move a zoomed book, and turn it where they pull on beyond its edge', async () => {
+      const { page, at, fingers } = await openWithFingers(quick);
+      await page.keyboard.press('+');
+      await page.keyboard.press('+');
+      const middle = await zoomOf(page);
+      assert.equal(middle.scale, 2);
+      await fingers.stroke(at(0.7, 0.5), at(0.6, 0.4));
+      const moved = await zoomOf(page);
+      assert.ok(moved.x < middle.x && moved.y < middle.y);
+      await fingers.stroke(at(0.95, 0.5), at(0.05, 0.5));
+      assert.ok((await zoomOf(page)).x < moved.x);
+      assert.deepEqual(await openPages(page), [4, 5], 'reaching the edge is not going beyond it');
+      assert.deepEqual(await turnWith(page, () => fingers.stroke(at(0.8, 0.5), at(0.5, 0.5))), [6, 7]);
+      const turned = await zoomOf(page);
+      assert.equal(turned.scale, 2);
+      assert.ok(turned.x > middle.x, 'it is read on from the left');
+      assert.deepEqual(await turnWith(page, () => fingers.stroke(at(0.2, 0.5), at(0.5, 0.5))), [4, 5]);
+    });
+  });
+});
