@@ -22,6 +22,12 @@ export function dress(root: HTMLElement, config: BookConfig): void {
   root.classList.toggle('shadowed', text('pageShadow') === '' || isOn(text('pageShadow')));
 }
 
+/** The browser's own bars take the colour of the book's, where they take one from a page. */
+export function colourBrowser(config: BookConfig): void {
+  const colour = String(config.toolBarColor ?? '').trim();
+  if (isColour(colour)) document.querySelector('meta[name="theme-color"]')?.setAttribute('content', colour);
+}
+
 const NARROW_PIXELS = 720;
 const SHORT_PIXELS = 480;
 

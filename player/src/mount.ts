@@ -4,7 +4,7 @@ import { BookTexts } from './bookTexts.ts';
 import { create } from './dom.ts';
 import { firstPlace, keepAddress } from './history.ts';
 import { listenToKeys } from './keys.ts';
-import { dress, followSize } from './look.ts';
+import { colourBrowser, dress, followSize } from './look.ts';
 import { PageLayer } from './pageLayer.ts';
 import { makePageField } from './pageField.ts';
 import { PageNames } from './pageNames.ts';
@@ -48,6 +48,7 @@ export function mountBook(
   const say = speak(root, settings, options);
   root.classList.add('leafcast');
   dress(root, config);
+  if (options.ownsPage) colourBrowser(config);
   followSize(root, taken.signal);
   const destroy = () => {
     taken.abort();
