@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Draws the pictures of the templates and the backgrounds of their styles.
+// Draws the pictures of the templates and the backgrounds of their styles. Needs Chromium and pngquant.
+import { execFileSync } from 'node:child_process';
 import { fileURLToPath } from 'node:url';
 import { drawHtml, launchBrowser } from './browser.mjs';
 import { demo, icons, thickness } from './templates/art/icons.mjs';
@@ -26,14 +27,17 @@ const PICTURES = [
   scene('float/Night/sky.jpg', scenes.nightSky(), 1600, 1000, 84),
   scene('float/Blue-hour/hills.jpg', scenes.blueHour(), 1600, 1000, 84),
   scene('float/Kids/playroom.png', scenes.playroom(), 480, 480),
+  { ...scene('float/Magazine/screen.png', scenes.halftone(), 1600, 1000), colours: 6 },
+  tile('float/Concrete/concrete.jpg', textures.concrete, 1024, 512, 82),
   tile('float/Wood-desk/desk.jpg', textures.wood, 1024, 512, 82),
   tile('float/Green-felt/felt.jpg', textures.felt, 256, 256, 84),
   tile('float/Paper-white/paper.jpg', textures.paper, 256, 256, 86),
 ];
 
 const browser = await launchBrowser();
-for (const { file, transparent = false, quality, ...picture } of PICTURES) {
+for (const { file, transparent = false, quality, colours, ...picture } of PICTURES) {
   const format = quality ? { type: 'jpeg', quality } : { omitBackground: transparent };
   await drawHtml(browser, picture, { path: file, ...format });
+  if (colours) execFileSync('pngquant', ['--force', '--strip', '--speed', '1', '--nofs', '--output', file, String(colours), file]);
 }
 await browser.close();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 import assert from 'node:assert/strict';
-import { existsSync, readdirSync, readFileSync } from 'node:fs';
+import { existsSync, readdirSync, readFileSync, statSync } from 'node:fs';
 import { after, before, describe, it } from 'node:test';
 import { launchBrowser } from '../../tools/browser.mjs';
 import { description } from '../../tools/templates/description.mjs';
@@ -19,6 +19,15 @@ function readProperties(text) {
   const nodes = new DOMParser().parseFromString(text, 'application/xml').querySelectorAll('property');
   const partsOf = (node) => Object.fromEntries([...node.children].map((part) => [part.tagName, part.textContent]));
   return [...nodes].map((node) => ({ type: node.getAttribute('type'), ...partsOf(node) }));
+}
+
+/** Of two colours 0xrrggbb, as WCAG defines it. */
+function contrast(...colours) {
+  const luminance = (colour) => [16, 8, 0].map((shift) => ((Number(colour) >> shift) & 255) / 255)
+    .map((channel) => (channel <= 0.04045 ? channel / 12.92 : ((channel + 0.055) / 1.055) ** 2.4))
+    .reduce((sum, channel, index) => sum + channel * [0.2126, 0.7152, 0.0722][index], 0);
+  const [dark, light] = colours.map(luminance).sort((one, other) => one - other);
+  return (light + 0.05) / (dark + 0.05);
 }
 
 describe('the template float', () => {
@@ -82,7 +91,14 @@ describe('the template float', () => {
     }
   });
 
-  for (const style of readdirSync(STYLES))
+  for (const style of readdirSync(STYLES)) {
+    it(`has in the style ${style} colours that can be told apart`, () => {
+      const records = readFileSync(`${STYLES}${style}/tmplSetting.txt`, 'utf8').split('\n').map((record) => record.split('='));
+      const { toolBarColor, toolBarTextColor, linkColor } = Object.fromEntries(records);
+      assert.ok(contrast(toolBarColor, toolBarTextColor) >= 4.5, 'text on the bar');
+      assert.ok(contrast(linkColor, 0xffffff) >= 3, 'the mark of a link, and of the focus, on paper');
+    });
+
     it(`has in the style ${style} only settings and files that exist`, () => {
       const records = readFileSync(`${STYLES}${style}/tmplSetting.txt`, 'utf8').split('\n').filter(Boolean);
       for (const record of records) {
@@ -92,5 +108,8 @@ describe('the template float', () => {
         if (file) assert.ok(existsSync(`${STYLES}${style}/${file}`), file);
       }
       assert.ok(existsSync(`${STYLES}${style}/shot.jpg`), 'a picture for the template chooser');
+      const bytes = readdirSync(STYLES + style).reduce((sum, name) => sum + statSync(`${STYLES}${style}/${name}`).size, 0);
+      assert.ok(bytes < 150_000, 'readers on slow lines wait for it');
     });
+  }
 });

@@ -91,3 +91,29 @@ export function playroom() {
     ${doodle(SCRIBBLE, 90, 200, -16, '#8fb8ea', false)}${doodle(SCRIBBLE, 400, 420, 18, '#8fb8ea', false)}
     ${doodle(RING, 250, 380, 0, '#9fd08a', false)}${doodle(RING, 160, 130, 0, '#f2935c', false)}`);
 }
+
+const SCREEN_PITCH = 22; // pixels from dot to dot
+const SCREEN_ANGLE = Math.PI / 4;
+
+/** Two lit balls in a halftone screen: round dots on a turned grid, the darker the place the larger. */
+export function halftone() {
+  const [width, height] = [1600, 1000];
+  const ball = (x, y, centreX, centreY, radius) => {
+    const [dx, dy] = [(x - centreX) / radius, (y - centreY) / radius];
+    const depth = 1 - dx * dx - dy * dy;
+    return depth < 0 ? 0 : Math.max(0.1, 0.95 - Math.max(0, Math.sqrt(depth) * 0.62 - dx * 0.5 - dy * 0.58));
+  };
+  const tone = (x, y) => Math.max(ball(x, y, 1330, 760, 560), ball(x, y, 210, 130, 330), 0.16 - y / 9000);
+  const [cosine, sine] = [Math.cos(SCREEN_ANGLE) * SCREEN_PITCH, Math.sin(SCREEN_ANGLE) * SCREEN_PITCH];
+  const steps = Math.ceil((width + height) / SCREEN_PITCH);
+  const dots = [];
+  for (let row = -steps; row <= steps; row++)
+    for (let column = -steps; column <= steps; column++) {
+      const [x, y] = [column * cosine - row * sine, column * sine + row * cosine];
+      if (x < -SCREEN_PITCH || x > width + SCREEN_PITCH || y < -SCREEN_PITCH || y > height + SCREEN_PITCH) continue;
+      dots.push(`<circle cx="${x.toFixed(1)}" cy="${y.toFixed(1)}" r="${(SCREEN_PITCH * 0.62 * Math.sqrt(tone(x, y))).toFixed(1)}"/>`);
+    }
+  return picture(width, height, '', `
+    <rect width="${width}" height="${height}" fill="#e23b3f"/>
+    <g fill="#b01e33">${dots.join('')}</g>`);
+}

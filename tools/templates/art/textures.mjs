@@ -4,6 +4,7 @@
 const mix = (from, to, share) => from.map((channel, index) => channel + (to[index] - channel) * share);
 const rgb = (hex) => [1, 3, 5].map((at) => parseInt(hex.slice(at, at + 2), 16));
 const smooth = (t) => t * t * (3 - 2 * t);
+const clamped = (share) => Math.max(0, Math.min(1, share));
 const wrapped = (value, period) => ((value % period) + period) % period;
 
 /** From -1 to 1, the same for the same three whole numbers. */
@@ -57,6 +58,27 @@ export function paper(u, v) {
   const fibre = Math.max(0, layer(12, 90, 3)(u, v) - 0.55) + Math.max(0, layer(90, 12, 4)(u, v) - 0.55);
   return mix(rgb('#efeeeb'), rgb('#fbfaf8'), 0.5 + tooth * 0.4 - fibre * 0.5);
 }
+
+const SHEETS = 2; // of formwork, side by side in a tile
+const TIE_HOLES = [0.22, 0.78];
+const TIE_HOLE_RADIUS = 0.02;
+
+/** Cast concrete: the clouds of its drying, pores, and the joints and tie holes of the formwork. */
+export function concrete(u, v) {
+  const clouds = layer(3, 3, 1)(u, v) * 0.4 + layer(7, 9, 2)(u, v) * 0.3 + layer(19, 23, 3)(u, v) * 0.16;
+  const sand = layer(180, 180, 4)(u, v) * 0.16;
+  const pore = Math.max(0, layer(90, 90, 5)(u, v) - 0.86) * 4;
+  const sheet = Math.floor(u * SHEETS);
+  const [across, down] = [u * SHEETS - sheet, v];
+  const toEdge = Math.min(Math.min(across, 1 - across), Math.min(down, 1 - down));
+  const joint = Math.max(0, 1 - toEdge / 0.006);
+  const hole = Math.max(...TIE_HOLES.flatMap((x) => TIE_HOLES.map((y) => tieHole(across - x, down - y))));
+  const light = 0.5 + (clouds + sand) * 0.5 + scattered(sheet, 1, 6) * 0.1 - pore * 0.25;
+  return mix(mix(rgb('#a5a6a5'), rgb('#c9c9c6'), light), rgb('#6d6e6e'), clamped(joint * 0.5 + hole * 0.9));
+}
+
+/** Lit from above, so that its upper rim is the darker one. */
+const tieHole = (dx, dy) => clamped((TIE_HOLE_RADIUS - Math.hypot(dx, dy)) / 0.004) * (0.72 - (dy / TIE_HOLE_RADIUS) * 0.28);
 
 /** The texture as the text of a BMP image's address. */
 export function bitmapAddress(texture, width, height) {
