@@ -1,0 +1,234 @@
+// SPDX-License-Identifier: MIT
+import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
+import { after, afterEach, before, describe, it } from 'node:test';
+import { launchBrowser } from '../../tools/browser.mjs';
+import { colourAt, openBook, openPages, pathOf, publishMagazine, removeBook, turnWith } from './support.mjs';
+
+const AXE = readFileSync(pathOf('node_modules/axe-core/axe.min.js'), 'utf8');
+const PHONE = { width: 390, height: 844, hasTouch: true, isMobile: true };
+const SPREAD = { hash: '#page/4' };
+
+/** A tool of the bar, or of its menu where there is no room for it. */
+async function press(page, name) {
+  const tool = page.locator('.tool', { has: page.getByText(name, { exact: true }) });
+  if (!(await tool.isVisible())) await page.getByRole('button', { name: 'More tools' }).click();
+  await tool.click();
+}
+
+async function searchFor(page, word) {
+  await press(page, 'Search');
+  await page.keyboard.type(word);
+  await page.locator('.hits button').first().waitFor();
+}
+
+/** Everything that a reader can have open. */
+const STATES = {
+  'the cover': () => {},
+  'a spread': (page) => turnWith(page, () => page.keyboard.press('ArrowRight')),
+  'a zoomed page': async (page) => {
+    await page.keyboard.press('+');
+    await page.locator('.sharp canvas').first().waitFor({ state: 'attached' });
+  },
+  contents: (page) => press(page, 'Contents'),
+  overview: (page) => press(page, 'Page overview'),
+  hits: (page) => searchFor(page, 'leaf'),
+  'the text of the book': async (page) => {
+    await press(page, 'Text of the book');
+    await page.locator('.text p').first().waitFor();
+  },
+  'the print dialog': (page) => press(page, 'Print'),
+  'the share dialog': (page) => press(page, 'Share'),
+  'the list of keys': (page) => press(page, 'Keys'),
+};
+
+const faults = async (page) => {
+  await page.evaluate(AXE);
+  // Preloading would ask for the style sheet, which a page that is a file may not.
+  const { violations } = await page.evaluate(() => window.axe.run(document, { resultTypes: ['violations'], preload: false }));
+  return violations.map(({ id, nodes }) => `${id}: ${nodes.map(({ html }) => html).join(' ')}`);
+};
+
+/** What can be pressed and is, with the space around links that belongs to them, smaller than so many pixels either way. */
+const smallTargets = (page, least) =>
+  page.evaluate((pixels) => {
+    const sizeOf = (element) => {
+      const area = element.matches('.link') ? getComputedStyle(element, '::before') : (element.closest('label') ?? element).getBoundingClientRect();
+      return [area.width, area.height].map(parseFloat);
+    };
+    const targets = [...document.querySelectorAll('a, button, input')].filter((each) => each.checkVisibility() && !each.matches('.skip'));
+    const small = targets.filter((each) => Math.min(...sizeOf(each)) < pixels - 0.1);
+    return small.map((each) => `${each.className || each.tagName} ${each.title || each.textContent}: ${sizeOf(each).join(' x ')}`);
+  }, least);
+
+/** Steps through by Tab to the end; answers what has the focus at each step, and what of it is out of sight. */
+async function tabThrough(page, most = 60) {
+  const [stops, hidden] = [[], []];
+  for (let step = 0; step < most; step++) {
+    await page.keyboard.press('Tab');
+    const stop = await page.evaluate(() => {
+      const focused = document.activeElement;
+      const { x, y, width, height } = focused.getBoundingClientRect();
+      const top = document.elementFromPoint(x + width / 2, y + height / 2);
+      const name = focused.getAttribute('aria-label') || focused.title || focused.textContent.trim();
+      return { name: focused === document.body ? '' : name, isSeen: focused.contains(top) || focused.closest('label')?.contains(top) };
+    });
+    if (!stop.name) return { stops, hidden };
+    stops.push(stop.name);
+    if (!stop.isSeen) hidden.push(stop.name);
+  }
+  throw new Error(`Tab never leaves the book: ${stops.join(', ')}`);
+}
+
+describe('the book for everyone', () => {
+  let browser, book;
+
+  before(async () => {
+    book = publishMagazine('--set', 'turnDuration=150');
+    browser = await launchBrowser();
+  });
+
+  afterEach(() => Promise.all(browser.contexts().map((context) => context.close())));
+
+  after(async () => {
+    await browser?.close();
+    if (book) removeBook(book);
+  });
+
+  async function open(options) {
+    const page = await openBook(browser, book, options);
+    await openPages(page);
+    return page;
+  }
+
+  for (const [name, goThere] of Object.entries(STATES))
+    it(`has no fault that axe finds and no small target: ${name}`, async () => {
+      for (const [options, target] of [[{}, 24], [PHONE, 44]]) {
+        const page = await open(options);
+        await goThere(page);
+        assert.deepEqual(await faults(page), []);
+        assert.deepEqual(await smallTargets(page, target), []);
+        await page.context().close();
+      }
+    });
+
+  describe('reached by keys', () => {
+    const BAR = ['Contents', 'Page overview', 'Search', 'Text of the book', 'Zoom out', 'Zoom in', 'Fit to window',
+      'View: automatic', 'Turn pages automatically', 'Sound of turning pages', 'Less motion', 'Print', 'Share', 'Keys', 'Full screen'];
+
+    it('goes from the bar over the links of the pages to the slider, and out', async () => {
+      const page = await open({ hash: '#page/2' });
+      const { stops, hidden } = await tabThrough(page);
+      const links = stops.filter((stop) => /: (Go to page|https?:|mailto:)/.test(stop));
+      assert.equal(links.length, 18);
+      assert.deepEqual(stops, ['Skip to the pages', ...BAR, 'Previous page', ...links, 'Next page', 'Place in the book', 'Page number']);
+      assert.deepEqual(hidden, []);
+    });
+
+    it('skips to the page, and goes on there after a turn', async () => {
+      const page = await open(SPREAD);
+      const focused = () => page.evaluate(() => document.activeElement.getAttribute('aria-label'));
+      await page.keyboard.press('Tab');
+      await page.keyboard.press('Enter');
+      assert.equal(await focused(), 'Page 4');
+      await turnWith(page, () => page.keyboard.press('ArrowRight'));
+      assert.equal(await focused(), 'Page 6');
+    });
+
+    for (const [view, options] of [['wide window', {}], ['phone', PHONE]])
+      it(`leaves every panel and dialog, which give the focus back, on a ${view}`, async () => {
+        const page = await open(options);
+        for (const name of ['Contents', 'Page overview', 'Search', 'Text of the book', 'Print', 'Share', 'Keys']) {
+          await press(page, name);
+          const { hidden } = await tabThrough(page);
+          assert.deepEqual(hidden, [], `${name} covers what has the focus`);
+          await page.keyboard.press('Tab');
+          await page.locator('.panel .tool, dialog .tool').first().focus();
+          await page.keyboard.press('Escape');
+          await page.locator('.panel, dialog').waitFor({ state: 'detached' });
+          assert.ok([name, 'More tools'].includes(await page.evaluate(() => document.activeElement.title)), name);
+        }
+      });
+  });
+
+  it('says once which pages lie open, when the leaf has settled', async () => {
+    const page = await open(SPREAD);
+    await page.evaluate(() => {
+      window.said = [];
+      const status = document.querySelector('p[role=status]');
+      new MutationObserver(() => window.said.push(status.textContent)).observe(status, { childList: true, characterData: true, subtree: true });
+    });
+    await turnWith(page, () => page.keyboard.press('ArrowRight'));
+    await turnWith(page, () => page.keyboard.press('Home'));
+    await turnWith(page, () => page.keyboard.press('End'));
+    await page.setViewportSize({ width: 1200, height: 700 });
+    await openPages(page);
+    assert.deepEqual(await page.evaluate(() => window.said),
+      ['Pages 6 and 7 of 16', 'Page Cover, 1 of 16', 'Page Back, 16 of 16']);
+    assert.equal(await page.locator('[aria-live]:not([aria-live=off])').count(), 1);
+  });
+
+  it('does by single taps what drags and pinches do', async () => {
+    const page = await open({ ...PHONE, ...SPREAD });
+    const tap = (name) => page.getByRole('button', { name }).tap();
+    assert.deepEqual(await turnWith(page, () => tap('Next page')), [5]);
+    assert.deepEqual(await turnWith(page, () => tap('Previous page')), [4]);
+    const { x, y, width, height } = await page.getByRole('slider').boundingBox();
+    assert.deepEqual(await turnWith(page, () => page.touchscreen.tap(x + width - 4, y + height / 2)), [16]);
+    for (const [name, zoomed] of [['Zoom in', true], ['Fit to window', false]]) {
+      await press(page, name);
+      await page.waitForFunction((wanted) => (document.querySelector('.sheet').style.transform !== '') === wanted, zoomed);
+      await page.keyboard.press('Escape');
+    }
+  });
+
+  it('fades instead of curling where less motion is asked for', async () => {
+    const page = await open({ ...SPREAD, reducedMotion: 'reduce' });
+    await page.evaluate(() => {
+      window.flown = 0;
+      const air = document.querySelector('.air');
+      new MutationObserver(() => (window.flown += air.hidden ? 0 : 1)).observe(air, { attributes: true });
+    });
+    const fades = page.waitForSelector('.fading', { state: 'attached' });
+    assert.deepEqual(await turnWith(page, () => page.keyboard.press('ArrowRight')), [6, 7]);
+    await fades;
+    await page.waitForSelector('.fading', { state: 'detached' });
+    assert.equal(await page.evaluate(() => window.flown), 0);
+    assert.equal(await page.locator('.tool[title="Less motion"]').getAttribute('aria-pressed'), 'true');
+  });
+
+  it('can be seen in forced colours', async () => {
+    const page = await open({ ...SPREAD, forcedColors: 'active' });
+    await press(page, 'Contents');
+    const drawn = (selector) => page.locator(selector).first().evaluate((element) => {
+      const { borderTopStyle, borderTopWidth, borderTopColor, backgroundColor, outlineStyle } = getComputedStyle(element);
+      return { hasEdge: borderTopStyle !== 'none' && parseFloat(borderTopWidth) > 0 && borderTopColor !== backgroundColor, outlineStyle };
+    });
+    for (const selector of ['.panel', '.bar', '.turn', '.tool[aria-expanded=true]', 'a[aria-current]'])
+      assert.equal((await drawn(selector)).hasEdge, true, `${selector} has no edge`);
+    assert.equal((await drawn('.turn')).hasEdge, true);
+    await page.keyboard.press('Tab');
+    assert.notEqual((await drawn(':focus-visible')).outlineStyle, 'none');
+    const [x, y] = await page.locator('.side').nth(1).boundingBox().then((box) => [box.x + box.width / 2, box.y + 20]);
+    assert.ok(Math.min(...await colourAt(page, x, y)) > 200, 'the page keeps its own colours');
+  });
+
+  it('prints the pages that were asked for, one a sheet', async () => {
+    const page = await open({ hash: '#page/2' });
+    await page.evaluate(() => (window.print = () => (window.printed = document.querySelectorAll('.leafcast-print img').length)));
+    await press(page, 'Print');
+    const field = page.getByRole('textbox', { name: 'For example 1-4, 7' });
+    await field.fill('99');
+    await page.keyboard.press('Enter');
+    assert.equal(await page.getByRole('dialog').getByRole('status').textContent(), 'Write page numbers such as 1-4, 7.');
+    await field.fill('5-7, iii');
+    await page.keyboard.press('Enter');
+    await page.waitForFunction(() => window.printed === 4);
+    const files = await page.locator('.leafcast-print img').evaluateAll((pictures) => pictures.map((each) => each.src.split('/').at(-1)));
+    assert.deepEqual(files, ['3.jpg', '5.jpg', '6.jpg', '7.jpg']);
+    const sheets = (await page.pdf({ width: '600px', height: '800px' })).toString('latin1').match(/\/Type\s*\/Page\b/g);
+    assert.equal(sheets.length, 4);
+    await page.evaluate(() => window.dispatchEvent(new Event('afterprint')));
+    await page.waitForFunction(() => !document.querySelector('dialog, .leafcast-print'));
+  });
+});
