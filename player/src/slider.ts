@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 import { create } from './dom.ts';
 import { clamp } from './geometry.ts';
+import type { Reader } from './reader.ts';
 import type { Ui } from './ui.ts';
 
 const THUMB_PIXELS = 18; // as in the style sheet
@@ -20,10 +21,12 @@ export function makeSlider({ reader, say, names, thumbnails }: Ui): HTMLElement 
   const element = create('div', { className: 'slider' }, range, bubble.element);
   let byPointer = false;
 
+  let shown = 1;
+
   const show = (places: readonly number[]) => {
     // At the end of the book the slider is at its end too.
-    const place = places.includes(reader.pageCount) ? reader.pageCount : (places[0] ?? 1);
-    range.value = String(place);
+    shown = places.includes(reader.pageCount) ? reader.pageCount : (places[0] ?? 1);
+    range.value = String(shown);
     fill(range, names.spoken(places));
   };
   reader.on('turned', show);
@@ -37,13 +40,21 @@ export function makeSlider({ reader, say, names, thumbnails }: Ui): HTMLElement 
     bubble.show(Number(range.value));
   });
   range.addEventListener('change', () => {
-    // With keys every page on the way is a change; only a jump is worth a step of the history.
-    if (byPointer) reader.goTo(Number(range.value));
-    else reader.show(Number(range.value));
+    const place = Number(range.value);
+    if (byPointer) reader.goTo(place);
+    else stepTo(reader, place, shown);
     if (byPointer) bubble.hide();
     byPointer = false;
   });
   return element;
+}
+
+/** With keys every page on the way is a change; only a jump is worth a step of the history. */
+function stepTo(reader: Reader, place: number, shown: number): void {
+  if (!reader.places.includes(place)) reader.show(place);
+  // The other page of a spread is seen already, so the key means the next spread.
+  else if (place > shown) reader.next();
+  else if (place < shown) reader.previous();
 }
 
 function fill(range: HTMLInputElement, spoken: string): void {

@@ -134,18 +134,15 @@ export abstract class ZoomingHands<Kind extends Handled> implements GestureHandl
     else this.turnByWheel((event.deltaY || event.deltaX) * unit, event.timeStamp);
   }
 
-  /** One page a push of the wheel, however long a touch pad lets it run on. */
+  /** One page a push of the wheel, however long a touch pad lets it run on; what runs back is another push. */
   private turnByWheel(pixels: number, time: number): void {
-    if (time - this.wheelTime < WHEEL_PAUSE_MILLISECONDS && this.wheel === Infinity) {
-      this.wheelTime = time;
-      return;
-    }
-    if (time - this.wheelTime > WHEEL_PAUSE_MILLISECONDS) this.wheel = 0;
-    this.wheel += pixels;
+    if (time - this.wheelTime > WHEEL_PAUSE_MILLISECONDS || pixels * this.wheel < 0) this.wheel = 0;
     this.wheelTime = time;
+    if (Math.abs(this.wheel) === Infinity) return;
+    this.wheel += pixels;
     if (Math.abs(this.wheel) < WHEEL_TURN) return;
     this.view.turn(Math.sign(this.wheel));
-    this.wheel = Infinity;
+    this.wheel *= Infinity;
   }
 }
 
