@@ -4,15 +4,27 @@ import { cpSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from 'node:f
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { fileURLToPath, pathToFileURL } from 'node:url';
+import { colourPdf } from './colourPdf.mjs';
 
 export const pathOf = (name) => fileURLToPath(new URL(`../../${name}`, import.meta.url));
 
 /** Publishes the sample magazine with the program that LEAFCAST names; returns the book's folder. */
-export function publishMagazine(...options) {
+export const publishMagazine = (...options) => publish(pathOf('samples/magazine.pdf'), newBookFolder(), options);
+
+/** Publishes pages of one colour each, as colourPdf() takes them. */
+export function publishColours(pages, ...options) {
+  const folder = newBookFolder();
+  const document = join(folder, '../colours.pdf');
+  writeFileSync(document, colourPdf(pages), 'latin1');
+  return publish(document, folder, options);
+}
+
+const newBookFolder = () => join(mkdtempSync(join(tmpdir(), 'leafcast-e2e-')), 'book');
+
+function publish(document, folder, options) {
   const program = process.env.LEAFCAST;
   if (!program) throw new Error('LEAFCAST must name the leafcast program that is to be tested.');
-  const folder = join(mkdtempSync(join(tmpdir(), 'leafcast-e2e-')), 'book');
-  const run = spawnSync(program, ['publish', pathOf('samples/magazine.pdf'), folder, ...options], { encoding: 'utf8' });
+  const run = spawnSync(program, ['publish', document, folder, ...options], { encoding: 'utf8' });
   if (run.status !== 0) throw new Error(`leafcast publish ended with ${run.status ?? run.error}: ${run.stderr}`);
   return folder;
 }
