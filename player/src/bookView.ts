@@ -12,6 +12,7 @@ import { PageEdges } from './pageEdges.ts';
 import { type PictureRequest, Pictures } from './pictures.ts';
 import { type PlacedPage, SharpView } from './sharpView.ts';
 import { arrange, type Face, placesOf, type Spread, spreadOf } from './spreads.ts';
+import { stiffnessOf } from './spring.ts';
 import { type FlyingLeaf, Turning } from './turning.ts';
 import type { View, ViewEvents } from './view.ts';
 import { keptInSight, NO_ZOOM, seenBox, type Zoom } from './zoom.ts';
@@ -29,8 +30,6 @@ export interface ViewOptions {
 
 export type Side = 'start' | 'end';
 
-/** A critically damped spring has come to rest to the eye after this many radians. */
-const RADIANS_OF_A_TURN = 9.5;
 const SPREADS_AHEAD = 2;
 const SPREADS_BEHIND = 1;
 const FULL: Quality = { fullPixels: true, stripsPerQuarter: 5 };
@@ -293,7 +292,7 @@ export class BookView implements View {
 
   private startTurning(spread: number): void {
     const leaf = { width: this.leafShape, height: 1 };
-    this.turning = new Turning(this.spreads.length, spread, leaf, RADIANS_OF_A_TURN / this.options.turnSeconds, {
+    this.turning = new Turning(this.spreads.length, spread, leaf, stiffnessOf(this.options.turnSeconds), {
       frame: (quality) => this.paintAir(quality),
       changed: () => this.showGround(),
       settled: (settled) => this.events.settled(this.placesAt(settled)),

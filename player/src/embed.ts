@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 import type { BookConfig, BookData } from './book.ts';
 import { answerMessages } from './messages.ts';
-import { type MountedBook, mountBook } from './mount.ts';
+import { type MountedBook, mountBook, type MountOptions } from './mount.ts';
 
 /**
  * The same player for any page: `leafcastBook.mount(element, config, data)` shows a book in an
  * element that has a size. Paths of pictures count from the page's address. The answer turns the
  * book and tells of it:
  *
- *     const book = leafcastBook.mount(element, bookConfig, bookData, { place: 4 });
+ *     const book = leafcastBook.mount(element, bookConfig, bookData, { place: 4, view: 'scroll' });
  *     book.on('settled', (places) => ...);    // or 'turned', at once
  *     book.goTo(12); book.next(); book.previous(); book.destroy();
  *
@@ -26,7 +26,7 @@ function mount(
   element: HTMLElement,
   config: BookConfig,
   data?: BookData,
-  options: { place?: number } = {},
+  options: Pick<MountOptions, 'place' | 'view'> = {},
 ): EmbeddedBook {
   const { reader, signal, destroy }: MountedBook = mountBook(element, config, data, options);
   if (reader) answerMessages(reader, signal);

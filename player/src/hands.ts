@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 import type { BookView } from './bookView.ts';
 import { add, type Point, scale, subtract } from './geometry.ts';
-import { type Drag, SWIPE_PIXELS, ZoomingHands } from './zoomingHands.ts';
+import { type Drag, isStroke, ZoomingHands } from './zoomingHands.ts';
 
 /** Of a leaf's width, from its outer edge: here a page is taken by the finger itself. */
 const GRAB_ZONE = 0.2;
 /** A leaf goes twice its width while a finger crosses the page once. */
 const SWIPE_GAIN = 2;
-const SWIPE_SPEED = 200; // CSS pixels a second
 
 /** What hands do to the book: turn its leaves, beside what they do to every view. */
 export class Hands extends ZoomingHands<BookView> {
@@ -51,17 +50,12 @@ export class Hands extends ZoomingHands<BookView> {
       },
       end: (velocity) => {
         const thrown = this.inLeaf(velocity);
-        const isSwipe = gain > 1 && this.isSwipe(moved * -step, thrown.x * -step);
+        const { leafPixels } = this.view;
+        const isSwipe = gain > 1 && moved * step < 0 && isStroke(moved * leafPixels, thrown.x * leafPixels);
         this.view.release(leaf, follow(thrown), isSwipe ? away : undefined);
       },
       cancel: () => this.view.drop(leaf, home),
     };
-  }
-
-  /** A short stroke that still moves when the finger leaves means the page to turn. In leaf heights. */
-  private isSwipe(moved: number, velocity: number): boolean {
-    const { leafPixels } = this.view;
-    return moved * leafPixels > SWIPE_PIXELS && velocity * leafPixels > SWIPE_SPEED;
   }
 
   private inLeaf(velocity: Point): Point {

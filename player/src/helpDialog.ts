@@ -1,25 +1,39 @@
 // SPDX-License-Identifier: MIT
 import { openDialog } from './dialog.ts';
 import { create } from './dom.ts';
+import type { Texts } from './texts/english.ts';
 import type { Ui } from './ui.ts';
+import type { ViewKind } from './view.ts';
+
+type Row = readonly [name: keyof Texts, keys: readonly string[]];
+
+const WAYS: Readonly<Record<ViewKind, readonly Row[]>> = {
+  book: [['keyTurn', ['←', '→', 'Page Up', 'Page Down']]],
+  slide: [
+    ['keyTurn', ['←', '→', 'Space', 'Page Up', 'Page Down']],
+    ['pageField', ['1 … 9', 'Enter']],
+    ['blackScreen', ['B', '.']],
+  ],
+  scroll: [['keyScroll', ['↑', '↓', 'Space', 'Page Up', 'Page Down']]],
+};
 
 /** Which keys do what. */
 export function openHelpDialog(ui: Ui): void {
   const { say } = ui;
-  const rows: readonly (readonly [string, readonly string[]])[] = [
-    [say('keyTurn'), ['←', '→', 'Page Up', 'Page Down']],
-    [say('keyEnds'), ['Home', 'End']],
-    [say('keyZoom'), ['+', '−']],
-    [say('fit'), ['0']],
-    [say('fullScreen'), ['F']],
-    [say('search'), ['/']],
-    [say('help'), ['?']],
-    [say('keyClose'), ['Esc']],
+  const rows: readonly Row[] = [
+    ...WAYS[ui.reader.kind],
+    ['keyEnds', ['Home', 'End']],
+    ['keyZoom', ['+', '−']],
+    ['fit', ['0']],
+    ['fullScreen', ['F']],
+    ['search', ['/']],
+    ['help', ['?']],
+    ['keyClose', ['Esc']],
   ];
   const list = create('dl', { className: 'keys' });
   for (const [name, keys] of rows)
     list.append(
-      create('div', {}, create('dt', {}, name), create('dd', {}, ...keys.map((key) => create('kbd', {}, key)))),
+      create('div', {}, create('dt', {}, say(name)), create('dd', {}, ...keys.map((key) => create('kbd', {}, key)))),
     );
   openDialog(ui, say('help'), list);
 }

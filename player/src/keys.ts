@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 import { isField } from './dom.ts';
 import { openHelpDialog } from './helpDialog.ts';
+import { type Actions, keyName, viewKeys } from './viewKeys.ts';
 import { canBeFullScreen, toggleFullScreen, zoomBy } from './viewTools.ts';
 import type { Ui } from './ui.ts';
-
-type Actions = Readonly<Record<string, () => void>>;
 
 /** Keys that are pressed on `target` and not meant for a field turn, jump, zoom and open what there is. */
 export function listenToKeys(ui: Ui, target: HTMLElement | Document, openSearch: (() => void) | undefined): void {
@@ -16,24 +15,19 @@ function answer(event: KeyboardEvent, actions: Actions): void {
   if (event.defaultPrevented || event.altKey || event.ctrlKey || event.metaKey || isField(event.target)) return;
   // Lists and long texts scroll and choose by the same keys, and dialogs close themselves.
   if (event.target instanceof Element && event.target.closest('dialog, .panel, .menu')) return;
-  const action = actions[event.key.length === 1 ? event.key.toLowerCase() : event.key];
-  if (!action) return;
+  const action = actions[keyName(event)];
+  if (!action || (isPress(event) && event.target instanceof Element && event.target.closest('a, button'))) return;
   event.preventDefault();
   action();
 }
 
+/** What buttons and links take as a press on them. */
+const isPress = ({ key }: KeyboardEvent): boolean => key === ' ' || key === 'Enter';
+
 function actionsOf(ui: Ui, openSearch: (() => void) | undefined): Actions {
   const { reader, root, panel } = ui;
-  const { rightToLeft, shows } = reader.settings;
-  const on = () => void reader.next();
-  const back = () => void reader.previous();
+  const { shows } = reader.settings;
   return {
-    ArrowRight: rightToLeft ? back : on,
-    ArrowLeft: rightToLeft ? on : back,
-    PageDown: on,
-    PageUp: back,
-    Home: () => reader.goTo(1),
-    End: () => reader.goTo(reader.pageCount),
     '+': () => zoomBy(ui, 1),
     '=': () => zoomBy(ui, 1),
     '-': () => zoomBy(ui, -1),
@@ -42,5 +36,6 @@ function actionsOf(ui: Ui, openSearch: (() => void) | undefined): Actions {
     ...(openSearch ? { '/': openSearch } : {}),
     ...(shows.help ? { '?': () => openHelpDialog(ui) } : {}),
     Escape: () => void panel.close(),
+    ...viewKeys(ui),
   };
 }

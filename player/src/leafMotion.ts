@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 import { type Curl, curlOf, reachable } from './curl.ts';
 import { add, type Point, type Size, subtract } from './geometry.ts';
-import { hasArrived, type Motion, springTo } from './spring.ts';
+import { FORESIGHT_SECONDS, hasArrived, type Motion, springTo } from './spring.ts';
 
 /** Of the leaf's width. */
 const LARGEST_RADIUS = 0.17;
-/** A released leaf falls to the side where it would be so much later. */
-const FORESIGHT_SECONDS = 0.15;
 /** Of the leaf's height a second; lifts the corner, so that the leaf turns at a tilt. */
 const LIFT = 1.9;
 /** Of the leaf's height: less than a pixel on any screen. */

@@ -2,12 +2,14 @@
 import { type BookConfig, type BookData, readBook } from './book.ts';
 import { BookTexts } from './bookTexts.ts';
 import { create } from './dom.ts';
+import { makeDots } from './dots.ts';
 import { firstPlace, keepAddress } from './history.ts';
 import { listenToKeys } from './keys.ts';
 import { colourBrowser, dress, followSize } from './look.ts';
 import { PageLayer } from './pageLayer.ts';
 import { makePageField } from './pageField.ts';
 import { PageNames } from './pageNames.ts';
+import { hideBarsAtRest } from './presenter.ts';
 import { Reader } from './reader.ts';
 import { readSettings, type Settings } from './settings.ts';
 import { SidePanel } from './sidePanel.ts';
@@ -18,6 +20,7 @@ import { makeToolbar, type RankedTool } from './toolbar.ts';
 import { makeTools } from './tools.ts';
 import { makeTurnButtons } from './turnButtons.ts';
 import type { Ui } from './ui.ts';
+import { type ViewKind, viewKind } from './view.ts';
 import { followMotionPreference } from './viewTools.ts';
 
 export interface MountOptions {
@@ -25,6 +28,8 @@ export interface MountOptions {
   readonly ownsPage?: boolean;
   /** The page to open at, when the address names none. */
   readonly place?: number;
+  /** Otherwise the element's attribute `data-view` says it. */
+  readonly view?: ViewKind;
 }
 
 export interface MountedBook {
@@ -43,10 +48,12 @@ export function mountBook(
   options: MountOptions = {},
 ): MountedBook {
   const taken = new AbortController();
-  const settings = readSettings(config);
+  const kind = viewKind(options.view ?? root.dataset.view);
+  const settings = readSettings(config, kind);
   const book = readBook(config, data);
   const say = speak(root, settings, options);
   root.classList.add('leafcast');
+  root.dataset.view = kind;
   dress(root, config);
   if (options.ownsPage) colourBrowser(config);
   followSize(root, taken.signal);
@@ -65,6 +72,7 @@ export function mountBook(
     book,
     settings,
     options.ownsPage ? firstPlace(book, settings) : (options.place ?? 1),
+    kind,
   );
   furnish(root, reader, say, options, taken.signal);
   return { ...mounted, reader };
@@ -82,7 +90,7 @@ let stageCount = 0;
 /** It has its size before the bars around it are made, because the book is laid out in it. */
 function makeStage(root: HTMLElement, { toolbar, shows }: Settings): HTMLElement {
   root.classList.toggle('no-bar', !toolbar);
-  root.classList.toggle('no-foot', !shows.slider && !shows.pageField);
+  root.classList.toggle('no-foot', !shows.slider && !shows.pageField && !shows.dots);
   root.classList.toggle('no-turns', !shows.turnButtons);
   const stage = create('div', { className: 'stage', id: `leafcast-stage-${++stageCount}` });
   root.replaceChildren(create('main', {}, stage));
@@ -118,6 +126,9 @@ function furnish(root: HTMLElement, reader: Reader, say: Say, { ownsPage }: Moun
   root.append(...foot(ui), status);
   announcePages(ui);
   followMotionPreference(reader, signal);
+  if (reader.kind === 'slide') hideBarsAtRest(ui);
+  // What the focus can be on needs a name.
+  if (reader.kind === 'scroll') nameStage(stage, say('pages'));
   if (settings.keyboard) listenToKeys(ui, ownsPage ? document : root, searchOpener(tools));
   if (ownsPage) keepAddress(reader, signal);
 }
@@ -137,10 +148,11 @@ function skipLink({ say, layer }: Ui, target: string): HTMLElement {
 }
 
 function foot(ui: Ui): HTMLElement[] {
-  const { slider, pageField } = ui.reader.settings.shows;
-  if (!slider && !pageField) return [];
+  const { slider, dots, pageField } = ui.reader.settings.shows;
+  if (!slider && !dots && !pageField) return [];
   const element = create('nav', { className: 'foot', 'aria-label': ui.say('finding') });
   if (slider) element.append(makeSlider(ui));
+  if (dots) element.append(makeDots(ui));
   if (pageField) element.append(makePageField(ui));
   return [element];
 }
@@ -153,4 +165,9 @@ function announcePages({ reader, names, announce }: Ui): void {
     if (spoken !== last) announce(spoken);
     last = spoken;
   });
+}
+
+function nameStage(stage: Element, name: string): void {
+  stage.setAttribute('role', 'group');
+  stage.setAttribute('aria-label', name);
 }

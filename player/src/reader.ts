@@ -4,7 +4,7 @@ import { Emitter } from './emitter.ts';
 import type { Mode } from './layout.ts';
 import type { Settings } from './settings.ts';
 import type { PlacedPage } from './sharpView.ts';
-import type { View } from './view.ts';
+import type { View, ViewKind } from './view.ts';
 import { makeView } from './views.ts';
 import type { Zoom } from './zoom.ts';
 import { zoomAbout } from './zoom.ts';
@@ -35,6 +35,7 @@ export class Reader extends Emitter<ReaderEvents> {
     readonly book: Book,
     readonly settings: Settings,
     place: number,
+    readonly kind: ViewKind = 'book',
   ) {
     super();
     const events = {
@@ -45,7 +46,7 @@ export class Reader extends Emitter<ReaderEvents> {
       pictured: (place: number) => this.emit('pictured', place),
       jumpAsked: (to: number) => this.goTo(to),
     };
-    this.view = makeView(stage, book, settings, events, this.within(place));
+    this.view = makeView(kind, stage, book, settings, events, this.within(place));
   }
 
   /** What pages lie on; layers over them go into it, so that they are zoomed along. */

@@ -112,7 +112,7 @@ class SearchPanel {
       layer.mark(this.hits, hit);
       panel.makeWay();
       if (reader.places.includes(hit.place)) layer.focus(hit.place);
-      else reader.goTo(hit.place);
+      reader.goTo(hit.place, hit.boxes[0]?.[1]);
     });
     return create('li', {}, button);
   }

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 import { type BookConfig, isOn } from './book.ts';
 import type { Mode } from './layout.ts';
+import type { ViewKind } from './view.ts';
+
+/** How one slide follows another. */
+export type SlideEffect = 'slide' | 'fade' | 'none';
 
 /**
  * What the template's properties say, read once. Each reader names the property, and what counts
@@ -14,6 +18,8 @@ export interface Settings {
   readonly hardCovers: boolean;
   readonly rightToLeft: boolean;
   readonly turnSeconds: number;
+  readonly slideEffect: SlideEffect;
+  readonly readingWidth: number; // CSS pixels; 0: as wide as the window
   readonly paperColour: string;
   readonly pageEdges: boolean;
   readonly keyboard: boolean;
@@ -34,6 +40,7 @@ export const CONTROLS = [
   'turnButtons',
   'pageField',
   'slider',
+  'dots',
   'thumbnails',
   'contents',
   'search',
@@ -54,10 +61,18 @@ export type Control = (typeof CONTROLS)[number];
 const keyOf = (control: Control): string =>
   control === 'fullScreen' ? 'fullScreenButtonVisible' : `${control}Visible`;
 
+const EFFECTS: Readonly<Record<string, SlideEffect>> = { Fade: 'fade', None: 'none' };
 const MODES: Readonly<Record<string, Mode>> = { Single: 'single', Double: 'double' };
 const SHORTEST_TURN_SECONDS = 0.15;
 
-export function readSettings(config: BookConfig): Settings {
+/** What a kind of view has no use for is not there, whatever the properties say. */
+const USELESS: Readonly<Record<ViewKind, readonly Control[]>> = {
+  book: ['dots'],
+  slide: ['viewMode', 'sound'],
+  scroll: ['viewMode', 'sound', 'dots', 'turnButtons', 'autoTurn', 'motion'],
+};
+
+export function readSettings(config: BookConfig, kind: ViewKind = 'book'): Settings {
   const text = (key: string) => String(config[key] ?? '').trim();
   const flag = (key: string, otherwise: boolean) => (text(key) === '' ? otherwise : isOn(text(key)));
   const number = (key: string, otherwise: number) => {
@@ -72,6 +87,8 @@ export function readSettings(config: BookConfig): Settings {
     hardCovers: flag('hardCover', false),
     rightToLeft: flag('rightToLeft', false),
     turnSeconds: Math.max(number('turnDuration', 800) / 1000, SHORTEST_TURN_SECONDS),
+    slideEffect: EFFECTS[text('slideEffect')] ?? 'slide',
+    readingWidth: number('readingWidth', 900),
     paperColour: text('pageColor') || '#ffffff',
     pageEdges: flag('pageEdges', true),
     keyboard: flag('keyboardControl', true),
@@ -84,6 +101,12 @@ export function readSettings(config: BookConfig): Settings {
     logoLink: text('appLogoLinkURL'),
     shareAddress: text('shareURL'),
     toolbar: flag('toolBarVisible', true),
-    shows: Object.fromEntries(CONTROLS.map((name) => [name, flag(keyOf(name), true)])) as Record<Control, boolean>,
+    shows: shown(kind, (name) => flag(keyOf(name), true)),
   };
 }
+
+const shown = (kind: ViewKind, isWanted: (control: Control) => boolean): Record<Control, boolean> =>
+  Object.fromEntries(CONTROLS.map((name) => [name, isWanted(name) && !USELESS[kind].includes(name)])) as Record<
+    Control,
+    boolean
+  >;

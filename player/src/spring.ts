@@ -1,6 +1,14 @@
 // SPDX-License-Identifier: MIT
 import { add, distance, length, type Point, scale, subtract } from './geometry.ts';
 
+/** What is let go comes to rest where it would be so much later. */
+export const FORESIGHT_SECONDS = 0.15;
+/** A critically damped spring has come to rest to the eye after this many radians. */
+const RADIANS_TO_REST = 9.5;
+
+/** Of a spring that comes to rest after some seconds. */
+export const stiffnessOf = (seconds: number): number => RADIANS_TO_REST / seconds;
+
 /** A point on a critically damped spring: it comes to its target without swinging past it. */
 export interface Motion {
   readonly position: Point;

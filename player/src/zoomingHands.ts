@@ -11,8 +11,12 @@ const LINE_PIXELS = 16;
 /** What a finger could pan no farther than this was at its edge. */
 const EDGE_PIXELS = 12;
 const FAR_PIXELS = 1e6;
-/** A stroke so long turns a page, when nothing else tells what it means. */
-export const SWIPE_PIXELS = 48;
+const SWIPE_PIXELS = 48;
+const SWIPE_SPEED = 200; // CSS pixels a second
+
+/** A short stroke that still moves when the finger leaves means the page to turn. Both have the same sign then. */
+export const isStroke = (pixels: number, pixelsASecond: number): boolean =>
+  Math.abs(pixels) > SWIPE_PIXELS && pixelsASecond * Math.sign(pixels) > SWIPE_SPEED;
 
 export interface Drag {
   readonly move: (to: Point) => unknown;
@@ -32,7 +36,7 @@ export interface Handled {
 /** What hands do to every view whose pages turn: they zoom it, pan it while it is zoomed, and turn by the wheel. */
 export abstract class ZoomingHands<Kind extends Handled> implements GestureHandler {
   private current: Drag | undefined;
-  private pinch: { readonly zoom: Zoom; readonly middle: Point } | undefined;
+  private pinch: Pinch | undefined;
   private wheel = 0;
   private wheelTime = 0;
 
@@ -70,21 +74,16 @@ export abstract class ZoomingHands<Kind extends Handled> implements GestureHandl
   }
 
   pinchStart(middle: Point): void {
-    this.pinch = { zoom: this.view.zoom, middle };
+    this.pinch = new Pinch(this.view, middle);
   }
 
   pinchMove(factor: number, middle: Point): void {
-    if (!this.pinch) return;
-    const { zoom, middle: start } = this.pinch;
-    const moved = panBy(zoom, subtract(middle, start));
-    this.view.setZoom(zoomAbout(moved, middle, zoom.scale * factor));
+    this.pinch?.move(factor, middle);
   }
 
   pinchEnd(): void {
+    this.pinch?.end();
     this.pinch = undefined;
-    // Hardly zoomed is not zoomed: a pinch seldom ends where it began.
-    const { zoom } = this.view;
-    if (Math.abs(zoom.scale - 1) < 0.08) this.view.setZoom(zoomAbout(zoom, { x: 0, y: 0 }, 1));
   }
 
   /** Where nothing is to follow the finger, the swipe alone turns. */
@@ -147,6 +146,29 @@ export abstract class ZoomingHands<Kind extends Handled> implements GestureHandl
 }
 
 type Zoomable = Pick<Handled, 'host' | 'zoom' | 'setZoom'>;
+
+/** Two fingers on a view, from where they were when it began. */
+export class Pinch {
+  private readonly zoom: Zoom;
+
+  constructor(
+    private readonly view: Zoomable,
+    private readonly start: Point,
+  ) {
+    this.zoom = view.zoom;
+  }
+
+  move(factor: number, middle: Point): void {
+    const moved = panBy(this.zoom, subtract(middle, this.start));
+    this.view.setZoom(zoomAbout(moved, middle, this.zoom.scale * factor));
+  }
+
+  /** Hardly zoomed is not zoomed: a pinch seldom ends where it began. */
+  end(): void {
+    const { zoom } = this.view;
+    if (Math.abs(zoom.scale - 1) < 0.08) this.view.setZoom(zoomAbout(zoom, { x: 0, y: 0 }, 1));
+  }
+}
 
 export function toggleZoom(view: Zoomable, at: Point): void {
   view.setZoom(zoomAbout(view.zoom, at, view.zoom.scale === 1 ? DOUBLE_TAP_SCALE : 1));

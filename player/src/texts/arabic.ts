@@ -62,8 +62,10 @@ export const arabic: Texts = {
   lessMotion: 'تقليل الحركة',
   help: 'مفاتيح الاختصار',
   keyTurn: 'تقليب الصفحات',
+  keyScroll: 'التمرير',
   keyEnds: 'الصفحة الأولى والأخيرة',
   keyZoom: 'تكبير وتصغير',
+  blackScreen: 'شاشة سوداء',
   keyClose: 'إغلاق اللوحة',
   newWindow: '{0} (نافذة جديدة)',
 };

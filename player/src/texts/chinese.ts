@@ -62,8 +62,10 @@ export const chinese: Texts = {
   lessMotion: '减少动态效果',
   help: '快捷键',
   keyTurn: '翻页',
+  keyScroll: '滚动',
   keyEnds: '首页和末页',
   keyZoom: '放大和缩小',
+  blackScreen: '黑屏',
   keyClose: '关闭面板',
   newWindow: '{0}（新窗口）',
 };

@@ -62,8 +62,10 @@ export const english = {
   lessMotion: 'Less motion',
   help: 'Keys',
   keyTurn: 'Turn pages',
+  keyScroll: 'Scroll',
   keyEnds: 'First and last page',
   keyZoom: 'Zoom in and out',
+  blackScreen: 'Black screen',
   keyClose: 'Close a panel',
   newWindow: '{0} (new window)',
 };

@@ -62,8 +62,10 @@ export const french: Texts = {
   lessMotion: 'Moins d’animations',
   help: 'Raccourcis clavier',
   keyTurn: 'Tourner les pages',
+  keyScroll: 'Faire défiler',
   keyEnds: 'Première et dernière page',
   keyZoom: 'Agrandir et réduire',
+  blackScreen: 'Écran noir',
   keyClose: 'Fermer un volet',
   newWindow: '{0} (nouvelle fenêtre)',
 };

@@ -62,8 +62,10 @@ export const german: Texts = {
   lessMotion: 'Weniger Bewegung',
   help: 'Tasten',
   keyTurn: 'Blättern',
+  keyScroll: 'Scrollen',
   keyEnds: 'Erste und letzte Seite',
   keyZoom: 'Vergrößern und verkleinern',
+  blackScreen: 'Schwarzer Bildschirm',
   keyClose: 'Bereich schließen',
   newWindow: '{0} (neues Fenster)',
 };

@@ -62,8 +62,10 @@ export const japanese: Texts = {
   lessMotion: '動きを減らす',
   help: 'キー操作',
   keyTurn: 'ページをめくる',
+  keyScroll: 'スクロール',
   keyEnds: '最初と最後のページ',
   keyZoom: '拡大と縮小',
+  blackScreen: '黒い画面',
   keyClose: 'パネルを閉じる',
   newWindow: '{0}（新しいウィンドウ）',
 };

@@ -62,8 +62,10 @@ export const spanish: Texts = {
   lessMotion: 'Menos movimiento',
   help: 'Teclas',
   keyTurn: 'Pasar páginas',
+  keyScroll: 'Desplazarse',
   keyEnds: 'Primera y última página',
   keyZoom: 'Ampliar y reducir',
+  blackScreen: 'Pantalla en negro',
   keyClose: 'Cerrar un panel',
   newWindow: '{0} (ventana nueva)',
 };

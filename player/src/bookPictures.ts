@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+import type { Book } from './book.ts';
+import { putCanvas } from './canvas.ts';
+import { type FaceSource, type Paper, paintFace } from './facePainter.ts';
+import type { Box } from './geometry.ts';
+import { type PictureRequest, Pictures } from './pictures.ts';
+
+/** The pictures of a book's pages, on canvases that show a whole page each. */
+export class BookPictures {
+  readonly pictures: Pictures;
+  private readonly source: FaceSource;
+
+  constructor(
+    private readonly book: Book,
+    private readonly paper: Paper,
+    /** A page's picture came, or could not be loaded. */
+    changed: (place: number) => void,
+  ) {
+    const page = (place: number) => book.pages[place - 1];
+    this.pictures = new Pictures(
+      (place) => (page(place)?.width === 0 ? '' : (page(place)?.image ?? '')),
+      (place) => ({ width: page(place)?.width ?? 0, height: page(place)?.height ?? 0 }),
+      changed,
+    );
+    this.source = {
+      picture: (place) => this.pictures.get(place),
+      shape: (place) => this.shapeOf(place),
+      label: (place) => page(place)?.label ?? '',
+    };
+  }
+
+  /** Width over height; that of most pages where it is not known. */
+  shapeOf(place: number): number {
+    const { width, height } = this.book.pages[place - 1] ?? { width: 0, height: 0 };
+    return width > 0 && height > 0 ? width / height : this.book.shape;
+  }
+
+  hasFailed(place: number): boolean {
+    return this.book.pages[place - 1]?.width === 0 || this.pictures.hasFailed(place);
+  }
+
+  /** Asks for pages that exist, at the widths of their boxes in CSS pixels; most urgent first. */
+  want(places: readonly number[], seen: (place: number) => boolean, widthOf: (place: number) => number): void {
+    const wanted = [...new Set(places)].filter((place) => place >= 1 && place <= this.book.pages.length);
+    const request = (place: number): PictureRequest => ({
+      place,
+      width: Math.round(widthOf(place) * devicePixelRatio),
+      seen: seen(place),
+    });
+    this.pictures.want(wanted.map(request));
+  }
+
+  paint(canvas: HTMLCanvasElement, place: number, box: Box): void {
+    putCanvas(canvas, box, devicePixelRatio);
+    canvas.dataset.drawn = this.pictures.get(place) ? String(place) : '';
+    const context = canvas.getContext('2d')!;
+    context.setTransform(canvas.width / box.width, 0, 0, canvas.height / box.height, 0, 0);
+    const { width, height } = box;
+    paintFace(context, { width, height }, { place, part: 'whole' }, 'none', this.source, this.paper);
+  }
+}

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+import { makeBlackScreen } from './presenter.ts';
+import type { Ui } from './ui.ts';
+import type { ViewKind } from './view.ts';
+
+/** What keys do, by their names; that of a blank is "Space". */
+export type Actions = Readonly<Record<string, () => void>>;
+
+export const keyName = ({ key, shiftKey }: KeyboardEvent): string =>
+  key === ' ' ? `${shiftKey ? 'Shift ' : ''}Space` : key.length === 1 ? key.toLowerCase() : key;
+
+const KEYS: Readonly<Record<ViewKind, (ui: Ui) => Actions>> = { book: turnKeys, slide: presenterKeys, scroll: scrollKeys };
+
+/** The keys by which a reader moves through the kind of view that there is. */
+export const viewKeys = (ui: Ui): Actions => KEYS[ui.reader.kind](ui);
+
+function turnKeys({ reader }: Ui): Actions {
+  const on = () => void reader.next();
+  const back = () => void reader.previous();
+  const { rightToLeft } = reader.settings;
+  return {
+    ArrowRight: rightToLeft ? back : on,
+    ArrowLeft: rightToLeft ? on : back,
+    PageDown: on,
+    PageUp: back,
+    Home: () => reader.goTo(1),
+    End: () => reader.goTo(reader.pageCount),
+  };
+}
+
+/** As in programs that show slides; clickers send these keys. */
+function presenterKeys(ui: Ui): Actions {
+  const keys = turnKeys(ui);
+  const [on, back] = [keys.PageDown!, keys.PageUp!];
+  const black = makeBlackScreen(ui);
+  return {
+    ...keys,
+    ...numberKeys(ui),
+    ArrowDown: on,
+    ArrowUp: back,
+    Space: on,
+    'Shift Space': back,
+    Backspace: back,
+    b: black,
+    '.': black,
+  };
+}
+
+const NUMBER_MILLISECONDS = 3000; // a number that is not ended is forgotten
+
+/** A number and Enter go to that page. */
+function numberKeys({ reader, names, say, announce }: Ui): Actions {
+  let digits = '';
+  let timer = 0;
+  const type = (digit: string) => {
+    if (digits === '' && digit === '0') return reader.zoomTo(1);
+    digits += digit;
+    clearTimeout(timer);
+    timer = window.setTimeout(() => (digits = ''), NUMBER_MILLISECONDS);
+  };
+  const go = () => {
+    const place = names.find(digits);
+    if (place) reader.goTo(place);
+    else if (digits) announce(say('noSuchPage', digits));
+    digits = '';
+  };
+  return { ...Object.fromEntries([...'0123456789'].map((digit) => [digit, () => type(digit)])), Enter: go };
+}
+
+const LINE_PIXELS = 60;
+const WINDOW_PART = 0.9;
+
+/** For when the focus is not on the pages, and the browser does not know what to scroll. */
+function scrollKeys({ root, reader }: Ui): Actions {
+  const stage = root.querySelector<HTMLElement>('.stage')!;
+  const by = (pixels: () => number) => () => {
+    stage.scrollBy({ top: pixels() });
+  };
+  const windows = (count: number) => by(() => count * WINDOW_PART * stage.clientHeight);
+  const keys: Actions = {
+    ArrowDown: by(() => LINE_PIXELS),
+    ArrowUp: by(() => -LINE_PIXELS),
+    PageDown: windows(1),
+    PageUp: windows(-1),
+    Space: windows(1),
+    'Shift Space': windows(-1),
+    Home: () => reader.goTo(1),
+    End: () => reader.goTo(reader.pageCount),
+  };
+  stage.addEventListener('keydown', (event) => {
+    if (keyName(event) in keys) event.stopPropagation();
+  });
+  return keys;
+}
