@@ -3,7 +3,7 @@
 import { execFileSync } from 'node:child_process';
 import { fileURLToPath } from 'node:url';
 import { drawHtml, launchBrowser } from './browser.mjs';
-import { demo, icons, thickness } from './templates/art/icons.mjs';
+import { demos, icons, thickness } from './templates/art/icons.mjs';
 import * as scenes from './templates/art/scenes.mjs';
 import * as textures from './templates/art/textures.mjs';
 
@@ -19,9 +19,11 @@ const scene = (file, html, width, height, quality) => ({ file: STYLES + file, ht
 const iconOf = (name) => (
   { file: `${TEMPLATES}${name}/icon.png`, html: icons[name], width: 128, height: 128, transparent: true });
 
+const demoOf = (name) => ({ file: `${TEMPLATES}${name}/demo.png`, html: demos[name], width: 320, height: 200 });
+
 const PICTURES = [
   ...Object.keys(icons).map(iconOf),
-  { file: TEMPLATES + 'float/demo.png', html: demo, width: 320, height: 200 },
+  ...Object.keys(demos).map(demoOf),
   { file: TEMPLATES + 'float/thickness.png', html: thickness, width: 24, height: 400 },
   scene('float/Wall-line/wall.png', scenes.wallLines(), 96, 192),
   scene('float/Night/sky.jpg', scenes.nightSky(), 1600, 1000, 84),
@@ -32,8 +34,15 @@ const PICTURES = [
   tile('float/Wood-desk/desk.jpg', textures.wood, 1024, 512, 82),
   tile('float/Green-felt/felt.jpg', textures.felt, 256, 256, 84),
   tile('float/Paper-white/paper.jpg', textures.paper, 256, 256, 86),
+  scene('slide/Studio/sweep.jpg', scenes.studio(), 1600, 1000, 80),
+  scene('slide/Theatre/curtain.jpg', scenes.curtain(), 1600, 1000, 80),
+  tile('slide/Chalkboard/board.jpg', textures.chalkboard, 640, 640, 78),
+  tile('scroll/Quiet/cloth.png', textures.weave, 128, 128),
+  tile('scroll/Library/leather.jpg', textures.leather, 384, 384, 82),
+  tile('scroll/Evening/slate.jpg', textures.slate, 384, 384, 84),
 ];
 
+const only = process.argv.slice(2);
 const browser = await launchBrowser();
 for (const { file, transparent = false, quality, colours, ...picture } of PICTURES) {
   const format = quality ? { type: 'jpeg', quality } : { omitBackground: transparent };

@@ -86,11 +86,16 @@ const READING = [
 
 const SLIDES = [
   list('slideEffect', 'Change of pages', '"Slide" moves the next page in from the side, "Fade" lets it appear, "None" shows it at once.', ['Slide', 'Fade', 'None']),
-  bool('dotsVisible', 'Dots', 'Dots below the pages, one for each; more than 40 pages have none.', 'YES', 'Visible'),
+  button('dotsVisible', 'Dots', 'Dots below the pages, one for each; of many pages, those around the open one. A click on a dot goes there.'),
+];
+
+const READING_WIDTH = [
+  number('readingWidth', 'Reading width', 'How wide a page is at most, in pixels of the screen, so that lines stay easy to read in a wide window. With 0 a page is as wide as the window.', 900),
 ];
 
 const GROUPS = [
   ['bookGroup', 'Page', 'What the pages are and how they lie side by side.', PAGE],
+  ['columnGroup', 'Column', 'How the pages lie below each other.', READING_WIDTH],
   ['slideGroup', 'Slides', 'How one page follows the other.', SLIDES],
   ['backgroundGroup', 'Background', 'What lies behind the pages.', BACKGROUND],
   ['toolBarGroup', 'Tool bar', 'The bar above the pages with the title and the buttons.', TOOL_BAR],
@@ -102,11 +107,11 @@ const GROUPS = [
   ['readingGroup', 'Reading aids', 'What helps readers with the text of the pages.', READING],
 ];
 
-/** The tree of a template that leaves out the keys `without`; groups with nothing left go too. */
-export function propertyTree(without) {
+/** The tree of a template that leaves out the keys `without`, and groups with nothing left; `changes` has by key what differs. */
+export function propertyTree({ without, changes = {} }) {
   const groups = GROUPS.map(([key, title, desc, members]) => ({
     type: 'pt_composite', key, title, desc, value: '',
-    children: members.filter((member) => !without.includes(member.key)),
+    children: members.filter((member) => !without.includes(member.key)).map((member) => ({ ...member, ...changes[member.key] })),
   }));
   return groups.filter(({ children }) => children.length > 0);
 }

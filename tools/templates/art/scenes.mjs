@@ -117,3 +117,37 @@ export function halftone() {
     <rect width="${width}" height="${height}" fill="#e23b3f"/>
     <g fill="#b01e33">${dots.join('')}</g>`);
 }
+
+const radial = (id, cx, cy, r, ...stops) => `
+  <radialGradient id="${id}" cx="${cx}" cy="${cy}" r="${r}">
+    ${stops.map(([offset, colour, opacity = 1]) => `<stop offset="${offset}" stop-color="${colour}" stop-opacity="${opacity}"/>`).join('')}
+  </radialGradient>`;
+
+/** A photographer's white sweep: wall and floor without an edge. */
+export function studio() {
+  const light = radial('light', 0.5, 0.4, 0.75, [0, '#ffffff'], [0.55, '#ffffff', 0.35], [1, '#ffffff', 0]);
+  const wall = gradient('wall', [0, '#d4dae2'], [0.62, '#e9edf1'], [0.74, '#dde2e8'], [1, '#c7ced7']);
+  return picture(1600, 1000, wall + light + grain(0.05), `
+    <rect width="1600" height="1000" fill="url(#wall)"/>
+    <rect width="1600" height="1000" fill="url(#light)"/>
+    <rect width="1600" height="1000" filter="url(#grain)"/>`);
+}
+
+/** A curtain in the light of a single lamp. */
+export function curtain() {
+  const lot = lots(5);
+  const folds = [];
+  for (let x = -40; x < 1640; x += 46 + lot() * 60) folds.push(x);
+  const fold = (x, index) => {
+    const width = (folds[index + 1] ?? 1700) - x;
+    return `<rect x="${x.toFixed(1)}" y="0" width="${(width + 1).toFixed(1)}" height="1000" fill="url(#fold)" opacity="${(0.75 + lot() * 0.25).toFixed(2)}"/>`;
+  };
+  const cloth = `<linearGradient id="fold"><stop stop-color="#2a060d"/><stop offset=".32" stop-color="#7c1a29"/>
+    <stop offset=".5" stop-color="#8f2432"/><stop offset=".78" stop-color="#4d0f1a"/><stop offset="1" stop-color="#22050a"/></linearGradient>`;
+  const lamp = radial('lamp', 0.5, 0.42, 0.7, [0, '#ffd9a8', 0.28], [0.5, '#3a0a10', 0.1], [1, '#0a0204', 0.86]);
+  return picture(1600, 1000, cloth + lamp + grain(0.05), `
+    <rect width="1600" height="1000" fill="#3a0a13"/>
+    ${folds.map(fold).join('')}
+    <rect width="1600" height="1000" fill="url(#lamp)"/>
+    <rect width="1600" height="1000" filter="url(#grain)"/>`);
+}

@@ -80,6 +80,42 @@ export function concrete(u, v) {
 /** Lit from above, so that its upper rim is the darker one. */
 const tieHole = (dx, dy) => clamped((TIE_HOLE_RADIUS - Math.hypot(dx, dy)) / 0.004) * (0.72 - (dy / TIE_HOLE_RADIUS) * 0.28);
 
+/** A board that was wiped many times: chalk left in long soft strokes. */
+export function chalkboard(u, v) {
+  const strokes = layer(3, 9, 1)(u, v) * 0.5 + layer(5, 24, 2)(u, v) * 0.3 + layer(2, 3, 3)(u, v) * 0.4;
+  const dust = layer(160, 160, 4)(u, v) * 0.14;
+  return mix(rgb('#24443a'), rgb('#3d6356'), 0.4 + strokes * 0.32 + dust);
+}
+
+/** Fine cloth of the binder's: threads over and under each other. */
+export function weave(u, v) {
+  const [x, y] = [u * 64, v * 64];
+  const isOver = (Math.floor(x) + Math.floor(y)) % 2 === 0;
+  const across = Math.sin((isOver ? y : x) * Math.PI) ** 2;
+  const thread = layer(isOver ? 8 : 64, isOver ? 64 : 8, 1)(u, v) * 0.35;
+  return mix(rgb('#dfe2e6'), rgb('#f0f2f4'), 0.3 + Math.abs(across) * 0.45 + thread);
+}
+
+/** Leather: small swellings with creases between them. */
+export function leather(u, v) {
+  const cells = 26;
+  const [x, y] = [u * cells, v * cells];
+  const distances = [-1, 0, 1].flatMap((dy) => [-1, 0, 1].map((dx) => {
+    const [left, top] = [Math.floor(x) + dx, Math.floor(y) + dy];
+    const at = (seed) => 0.5 + 0.42 * scattered(wrapped(left, cells), wrapped(top, cells), seed);
+    return Math.hypot(x - left - at(1), y - top - at(2));
+  })).sort((one, other) => one - other);
+  const crease = Math.min((distances[1] - distances[0]) / 0.32, 1);
+  const wear = layer(4, 4, 3)(u, v) * 0.16 + layer(90, 90, 4)(u, v) * 0.08;
+  return mix(rgb('#14271f'), rgb('#2a4a3c'), 0.12 + smooth(crease) * 0.5 + wear);
+}
+
+/** Dark slate, hardly more than a colour. */
+export function slate(u, v) {
+  const layers = layer(4, 30, 1)(u, v) * 0.35 + layer(10, 80, 2)(u, v) * 0.35 + layer(120, 120, 3)(u, v) * 0.3;
+  return mix(rgb('#1a1917'), rgb('#25231f'), 0.5 + layers * 0.55);
+}
+
 /** The texture as the text of a BMP image's address. */
 export function bitmapAddress(texture, width, height) {
   const pixels = Buffer.alloc(54 + width * height * 3); // widths that are multiples of four need no padding
