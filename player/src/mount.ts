@@ -19,6 +19,7 @@ import { Thumbnails } from './thumbnails.ts';
 import { makeToolbar, type RankedTool } from './toolbar.ts';
 import { makeTools } from './tools.ts';
 import { makeTurnButtons } from './turnButtons.ts';
+import { TurnSound } from './turnSound.ts';
 import type { Ui } from './ui.ts';
 import { type ViewKind, viewKind } from './view.ts';
 import { followMotionPreference } from './viewTools.ts';
@@ -111,6 +112,7 @@ function furnish(root: HTMLElement, reader: Reader, say: Say, { ownsPage }: Moun
     layer: new PageLayer(reader, texts, names, say),
     thumbnails: new Thumbnails(book.pages),
     panel: new SidePanel(root, say),
+    sound: new TurnSound(reader, signal),
     announce: (text) => (status.textContent = text),
     signal,
   };

@@ -17,8 +17,11 @@ export function openShareDialog(ui: Ui): void {
 
 export function addressOf(shareAddress: string, place: number): string {
   const [base = ''] = (shareAddress || location.href).split('#');
-  return base + hashOf(place);
+  return withScheme(base) + hashOf(place);
 }
+
+/** Who types an address often leaves out how it begins. */
+const withScheme = (address: string): string => (/^\w+:\/\//.test(address) ? address : `https://${address}`);
 
 export const snippet = (address: string, title: string): string =>
   `<iframe src="${escaped(address)}" title="${escaped(title)}" width="960" height="640" ` +

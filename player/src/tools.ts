@@ -10,7 +10,7 @@ import { textPanel } from './textPanel.ts';
 import { thumbnailPanel } from './thumbnailPanel.ts';
 import { makePanelTool, makeTool } from './tool.ts';
 import type { RankedTool } from './toolbar.ts';
-import { makeTurnSound } from './turnSound.ts';
+import { makeSoundSwitch } from './turnSound.ts';
 import type { Ui } from './ui.ts';
 import { canBeFullScreen, makeFullScreen, makeMotionSwitch, makeViewMode, makeZoomTools } from './viewTools.ts';
 
@@ -47,11 +47,16 @@ const KINDS: readonly ToolKind[] = [
   { control: 'zoom', rank: 5, make: makeZoomTools },
   { control: 'viewMode', rank: 8, make: makeViewMode },
   { control: 'autoTurn', rank: 11, make: makeAutoTurn },
-  { control: 'sound', rank: 10, make: makeTurnSound },
+  { control: 'sound', rank: 10, make: makeSoundSwitch },
   { control: 'motion', rank: 13, make: makeMotionSwitch },
   { control: 'print', rank: 7, make: (ui) => makeTool('print', ui.say('print'), () => openPrintDialog(ui)) },
   { control: 'share', rank: 6, make: (ui) => makeTool('share', ui.say('share'), () => openShareDialog(ui)) },
-  { control: 'help', rank: 12, make: (ui) => makeTool('help', ui.say('help'), () => openHelpDialog(ui)) },
+  {
+    control: 'help',
+    rank: 12,
+    suits: ({ reader }) => reader.settings.keyboard,
+    make: (ui) => makeTool('help', ui.say('help'), () => openHelpDialog(ui)),
+  },
   { control: 'fullScreen', rank: 4, suits: canBeFullScreen, make: makeFullScreen },
 ];
 

@@ -1,31 +1,41 @@
 // SPDX-License-Identifier: MIT
+import type { Reader } from './reader.ts';
 import { changeTool, makeTool, setPressed } from './tool.ts';
 import type { Ui } from './ui.ts';
 
 const SECONDS = 0.34;
 
 /** The rustle of a leaf, made of filtered noise; no file is needed for it. */
-export function makeTurnSound({ reader, say, signal }: Ui): HTMLButtonElement {
-  let isOn = reader.settings.sound;
-  let audio: AudioContext | undefined;
-  let shown = String(reader.settings.sound);
-  const tool = makeTool('silence', say('sound'), () => turnOn(!isOn));
-  const turnOn = (wanted: boolean) => {
-    isOn = wanted;
-    setPressed(tool, isOn);
-    changeTool(tool, isOn ? 'sound' : 'silence', say('sound'));
-  };
-  turnOn(isOn);
-  reader.on('turned', (places) => {
-    const turned = places.join();
-    if (!isOn || turned === shown) return;
-    shown = turned;
-    audio ??= new AudioContext();
+export class TurnSound {
+  isOn: boolean;
+  private audio: AudioContext | undefined;
+  private shown = '';
+
+  constructor(reader: Reader, signal: AbortSignal) {
+    this.isOn = reader.settings.sound;
+    reader.on('settled', (places) => (this.shown = places.join()));
+    reader.on('turned', (places) => this.hear(places.join()));
+    signal.addEventListener('abort', () => void this.audio?.close());
+  }
+
+  private hear(turned: string): void {
+    if (!this.isOn || turned === this.shown) return;
+    this.shown = turned;
+    this.audio ??= new AudioContext();
     // Browsers let a page sound only after its reader has pressed something.
-    if (audio.state === 'suspended') void audio.resume();
-    rustle(audio);
-  });
-  signal.addEventListener('abort', () => void audio?.close());
+    if (this.audio.state === 'suspended') void this.audio.resume();
+    rustle(this.audio);
+  }
+}
+
+export function makeSoundSwitch({ sound, say }: Ui): HTMLButtonElement {
+  const tool = makeTool('silence', say('sound'), () => turnOn(!sound.isOn));
+  const turnOn = (wanted: boolean) => {
+    sound.isOn = wanted;
+    setPressed(tool, wanted);
+    changeTool(tool, wanted ? 'sound' : 'silence', say('sound'));
+  };
+  turnOn(sound.isOn);
   return tool;
 }
 

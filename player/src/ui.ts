@@ -6,6 +6,7 @@ import type { Reader } from './reader.ts';
 import type { SidePanel } from './sidePanel.ts';
 import type { Say } from './texts.ts';
 import type { Thumbnails } from './thumbnails.ts';
+import type { TurnSound } from './turnSound.ts';
 
 /** What every part of the interface is given. */
 export interface Ui {
@@ -17,6 +18,7 @@ export interface Ui {
   readonly texts: BookTexts;
   readonly thumbnails: Thumbnails;
   readonly panel: SidePanel;
+  readonly sound: TurnSound;
   /** Says something to screen readers, once nothing else is being said. */
   readonly announce: (text: string) => void;
   /** Aborted when the book is taken down. */

@@ -27,6 +27,7 @@ test('the open chapter is the last and deepest one that starts before the page e
 
 test('what is shared leads to the page, whatever stood behind the address', () => {
   assert.equal(addressOf('https://example.org/a/?b=1#page/3', 12), 'https://example.org/a/?b=1#page/12');
+  assert.equal(addressOf('www.example.org/a', 1), 'https://www.example.org/a#page/1');
 });
 
 test('no address or title can break out of the code for a web page', () => {

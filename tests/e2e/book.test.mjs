@@ -185,29 +185,6 @@ describe('a published book', () => {
     assert.deepEqual(page.troubles, []);
   });
 
-  it('shows each control that is not switched off, and no other', async () => {
-    const controls = {
-      turnButtons: ['button', 'Next page'], pageField: ['textbox', 'Page number'], slider: ['slider', 'Place in the book'],
-      thumbnails: ['button', 'Page overview'], contents: ['button', 'Contents'], search: ['button', 'Search'],
-      textView: ['button', 'Text of the book'], zoom: ['button', 'Zoom in'], viewMode: ['button', 'View: automatic'],
-      print: ['button', 'Print'], share: ['button', 'Share'], autoTurn: ['button', 'Turn pages automatically'],
-      sound: ['button', 'Sound of turning pages'], motion: ['button', 'Less motion'], help: ['button', 'Keys'], fullScreen: ['button', 'Full screen'],
-    };
-    const keyOf = (control) => (control === 'fullScreen' ? 'fullScreenButtonVisible' : `${control}Visible`);
-    const counts = async (page) => {
-      await page.locator('.page').first().waitFor();
-      const found = Object.entries(controls).map(async ([control, [role, name]]) => [control, await page.getByRole(role, { name }).count()]);
-      return Object.fromEntries(await Promise.all(found));
-    };
-    const each = (count) => Object.fromEntries(Object.keys(controls).map((control) => [control, count]));
-    assert.deepEqual(await counts(await open()), each(1));
-    const switchedOff = Object.fromEntries(Object.keys(controls).map((control) => [keyOf(control), 'NO']));
-    const page = await openChanged({ files: { 'javascript/main.js': scriptWith(book, switchedOff) } });
-    assert.deepEqual(await counts(page), each(0));
-    assert.deepEqual(await turnWith(page, () => page.keyboard.press('ArrowRight')), [2, 3]);
-    assert.deepEqual(page.troubles, []);
-  });
-
   it('defines the digest that the configuration script calls', async () => {
     const page = await open();
     const digests = await page.evaluate(() => ['', 'abc', 'a'.repeat(119), 'a'.repeat(120)].map((text) => window.orgt(text)));
@@ -215,70 +192,5 @@ describe('a published book', () => {
       'd41d8cd98f00b204e9800998ecf8427e', '900150983cd24fb0d6963f7d28e17f72',
       '8a7bd0732ed6a28ce75f6dabc90e1613', '5f61c0ccad4cac44c75ff505e1f1e537',
     ]);
-  });
-
-  describe('does what its settings say:', () => {
-    const style = (page, selector, name) =>
-      page.locator(selector).first().evaluate((node, key) => getComputedStyle(node)[key], name);
-    const checks = {
-      'single pages': [{ viewMode: 'Single' }, async (page) =>
-        assert.deepEqual(await turnWith(page, () => page.keyboard.press('ArrowRight')), [2])],
-      'no cover': [{ coverAlone: 'NO' }, async (page) => assert.deepEqual(await openPages(page), [1, 2])],
-      'no keys': [{ keyboardControl: 'NO' }, async (page) => {
-        await page.keyboard.press('ArrowRight');
-        assert.equal(await page.locator('.page-field .field').inputValue(), 'Cover');
-      }],
-      'no turns by the wheel': [{ wheelTurns: 'NO' }, async (page) => {
-        await page.mouse.move(640, 400);
-        const turned = await turnWith(page, async () => {
-          await page.mouse.wheel(0, 240);
-          await page.keyboard.press('ArrowRight');
-        });
-        assert.deepEqual(turned, [2, 3]);
-      }],
-      'no links and text': [{ readerData: 'NO' }, async (page) => {
-        await turnWith(page, () => page.keyboard.press('ArrowRight'));
-        assert.equal(await page.locator('.link, .page .spoken').count(), 0);
-        assert.equal(await page.getByRole('button', { name: 'Search' }).count(), 0);
-      }],
-      'language and title': [{ languageSetting: 'German', bookTitle: 'Herbst' }, async (page) => {
-        assert.equal(await page.getByRole('button', { name: 'Nächste Seite' }).count(), 1);
-        assert.equal(await page.getByRole('heading').textContent(), 'Herbst');
-        assert.equal(await page.locator('html').getAttribute('lang'), 'de');
-      }],
-      'an interface from right to left': [{ languageSetting: 'Arabic' }, async (page) => {
-        assert.equal(await style(page, '.bar', 'direction'), 'rtl');
-        assert.ok((await page.locator('.next').boundingBox()).x > 640, 'the book itself still goes on to the right');
-      }],
-      'no tool bar': [{ toolBarVisible: 'NO' }, async (page) => assert.equal(await page.locator('.bar').count(), 0)],
-      'no full screen': [{ fullScreenButtonVisible: 'NO' }, async (page) =>
-        assert.equal(await page.getByRole('button', { name: 'Full screen' }).count(), 0)],
-      'colours': [{ backgroundColor: '#102030', toolBarColor: '#405060', toolBarTextColor: '#a0b0c0' }, async (page) => {
-        assert.equal(await style(page, '.leafcast', 'backgroundColor'), 'rgb(16, 32, 48)');
-        assert.equal(await style(page, '.bar', 'backgroundColor'), 'rgb(64, 80, 96)');
-        assert.equal(await style(page, '.next', 'color'), 'rgb(160, 176, 192)');
-      }],
-      'background image': [{ bgImageURL: 'files/page/2.jpg', bgImagePosition: 'Fill' }, async (page) => {
-        assert.match(await style(page, '.leafcast', 'backgroundImage'), /files\/page\/2\.jpg/);
-        assert.equal(await style(page, '.leafcast', 'backgroundSize'), 'cover');
-      }],
-      'logo and link': [{ LogoFile: 'files/page/2.jpg', appLogoLinkURL: 'http://example.org', OpenWindow: '_self' }, async (page) => {
-        const logo = page.getByRole('link', { name: 'http://example.org' });
-        assert.equal(await logo.getAttribute('target'), '_self');
-        assert.ok((await logo.boundingBox()).height < 60);
-      }],
-      'no shadow': [{ pageShadow: 'NO' }, async (page) => assert.equal(await style(page, '.side', 'boxShadow'), 'none')],
-      'shape without images': [{ pageWidth: 500, pageHeight: 1000, largePageWidth: 0, largePageHeight: 0, readerData: 'NO' }, async (page) => {
-        const { width, height } = await page.locator('.page').boundingBox();
-        assert.ok(Math.abs(width / height - 0.5) < 0.01);
-      }],
-    };
-    for (const [name, [settings, check]] of Object.entries(checks))
-      it(name, async () => {
-        const page = await openChanged({ files: { 'javascript/main.js': scriptWith(book, settings) } });
-        await page.locator('.page').first().waitFor();
-        await check(page);
-        assert.deepEqual(page.troubles, []);
-      });
   });
 });

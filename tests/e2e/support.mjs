@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 import { spawnSync } from 'node:child_process';
-import { cpSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
+import { cpSync, mkdirSync, mkdtempSync, readdirSync, readFileSync, rmSync, symlinkSync, writeFileSync } from 'node:fs';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { fileURLToPath, pathToFileURL } from 'node:url';
@@ -49,6 +49,15 @@ export function scriptWith(book, settings) {
     if (!entry.test(text)) throw new Error(`The book's script has no setting ${key}.`);
     return text.replace(entry, `$1${JSON.stringify(value)}`);
   }, script.slice(start)).replace(/^/, () => script.slice(0, start));
+}
+
+/** The same book with other settings; everything but its script is the book's own. */
+export function variantOf(book, settings) {
+  const folder = join(mkdtempSync(join(tmpdir(), 'leafcast-e2e-')), 'book');
+  mkdirSync(join(folder, 'javascript'), { recursive: true });
+  for (const name of readdirSync(book)) if (name !== 'javascript') symlinkSync(join(book, name), join(folder, name));
+  writeFileSync(join(folder, 'javascript/main.js'), scriptWith(book, settings));
+  return folder;
 }
 
 /** Opens a book from its folder. */

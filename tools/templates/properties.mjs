@@ -12,8 +12,8 @@ const button = (key, title, desc) => bool(key, title, desc, 'YES', 'Visible');
 
 const PAGE = [
   text('bookTitle', 'Title', 'Title in the tool bar. Left empty, the title of the HTML page is shown.'),
-  number('pageWidth', 'Page width', 'Width of a page. It follows the imported document, and together with the height gives the shape of pages that have no picture.', 960),
-  number('pageHeight', 'Page height', 'Height of a page. It follows the imported document, and together with the width gives the shape of pages that have no picture.', 1280),
+  number('pageWidth', 'Page width', 'Width of a page. It follows the imported document, and together with the height gives the shape of the pages where no picture tells it.', 960),
+  number('pageHeight', 'Page height', 'Height of a page. It follows the imported document, and together with the width gives the shape of the pages where no picture tells it.', 1280),
   list('viewMode', 'Pages side by side', '"Double" shows two facing pages, "Single" one page at a time. "Auto" takes what fits the window better.', ['Auto', 'Single', 'Double']),
   bool('coverAlone', 'Cover', 'Where two pages are shown, the first page stands alone like the cover of a printed book. Switched off, pages 1 and 2 face each other.', 'YES', 'First page stands alone'),
   bool('hardCover', 'Hard cover', 'The first and the last leaf turn stiffly like boards. Switched off, they bend like the other leaves.', 'NO', 'Covers are stiff'),
@@ -66,7 +66,7 @@ const LANGUAGE = [
 const LOGO_AND_LINKS = [
   file('LogoFile', 'Logo', 'Picture shown at the start of the tool bar, scaled to its height.', 'Images|*.jpg;*.png;*.bmp;*.gif'),
   text('appLogoLinkURL', 'Logo link', 'Web address that a click on the logo opens.'),
-  color('linkColor', 'Link colour', 'Colour that marks links on the pages, and whatever the keyboard is on.', '0x2f7d4f'),
+  color('linkColor', 'Link colour', 'Colour that marks, on the pages, the link that the pointer or the keyboard is on.', '0x2f7d4f'),
   list('OpenWindow', 'Open web links in', '"Blank" opens web links and the logo link in a new window, "Self" in the window of the book.', ['Blank', 'Self']),
 ];
 
@@ -80,7 +80,7 @@ const READING = [
   button('searchVisible', 'Search', 'Panel that finds words in the text of the document.'),
   button('textViewVisible', 'Text view', 'Button that shows the text of the document without its pages.'),
   button('motionVisible', 'Less motion', 'Switch that lets pages fade instead of turning, on from the start for readers who ask their system for less motion.'),
-  button('helpVisible', 'Keys', 'Button that shows which keys do what.'),
+  button('helpVisible', 'Keys', 'Button that shows which keys do what. Where keys do nothing there is no such button.'),
   button('zoomVisible', 'Zoom', 'Buttons that enlarge the pages. Pinching and double tapping stay possible when it is switched off.'),
 ];
 

@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+import assert from 'node:assert/strict';
+import { after, afterEach, before, describe, it } from 'node:test';
+import { launchBrowser } from '../../tools/browser.mjs';
+import { TEMPLATES } from '../../tools/templates/templates.mjs';
+import { destination, openBook, openPages, publishMagazine, removeBook, variantOf } from './support.mjs';
+
+const TITLE = 'Hornbeam No. 7: Trees, leaves and things made by hand';
+
+const styles = (selector, name) => (page) => page.locator(selector).evaluateAll((nodes, key) => nodes.map((node) => getComputedStyle(node)[key]), name);
+const attributes = (selector, name) => (page) => page.locator(selector).evaluateAll((nodes, key) => nodes.map((node) => node.getAttribute(key)), name);
+const count = (selector) => (page) => page.locator(selector).filter({ visible: true }).count();
+const press = (key) => (page) => page.keyboard.press(key);
+const click = (name) => (page) => page.getByRole('button', { name, exact: true }).click();
+/** One after the other; what the last one sees. */
+const inTurn = (...steps) => async (page) => {
+  let seen;
+  for (const step of steps) seen = await step(page);
+  return seen;
+};
+const pressed = (key) => inTurn(press(key), destination);
+
+async function shape(page) {
+  const { width, height } = await page.locator('.page').boundingBox();
+  return Math.round((width / height) * 100) / 100;
+}
+
+async function turnWheel(page) {
+  await page.evaluate(() => { window.wheel = new Promise((resolve) => addEventListener('wheel', resolve, { once: true })); });
+  await page.mouse.move(640, 400);
+  await page.mouse.wheel(0, 240);
+  await page.evaluate(() => window.wheel);
+}
+
+const stopClock = (page) => page.clock.install();
+const runClock = (milliseconds) => (page) => page.clock.runFor(milliseconds);
+const isStill = (page) => page.locator('.air').isHidden();
+
+async function colourAboveAWidePage(page) {
+  const picture = await page.screenshot({ clip: { x: 640, y: 100, width: 1, height: 1 } });
+  const blank = await page.context().newPage();
+  const channels = await blank.evaluate(async (base64) => {
+    const bytes = Uint8Array.from(atob(base64), (each) => each.charCodeAt(0));
+    const context = new OffscreenCanvas(1, 1).getContext('2d');
+    context.drawImage(await createImageBitmap(new Blob([bytes])), 0, 0);
+    return [...context.getImageData(0, 0, 1, 1).data].slice(0, 3);
+  }, picture.toString('base64'));
+  return channels.join();
+}
+
+/** What is seen of a cover that is held in mid-turn, once it hangs still. */
+async function heldCover(page) {
+  const { x, y, width, height } = await page.locator('.page').boundingBox();
+  await page.mouse.move(x + width - 8, y + height - 8);
+  await page.mouse.down();
+  await page.mouse.move(x + width * 0.2, y + height * 0.7, { steps: 8 });
+  for (let seen = '', now; ; seen = now) {
+    now = (await page.screenshot()).toString('base64');
+    if (now === seen) return now;
+  }
+}
+
+async function reopen(page) {
+  await page.keyboard.press('End');
+  await openPages(page);
+  const [address] = page.url().split('#');
+  await page.goto('about:blank');
+  await page.goto(address);
+}
+
+const focusPage = (page) => page.locator('.page').first().focus();
+const ringOfFocus = (page) => page.evaluate(() => getComputedStyle(document.activeElement).outlineColor);
+const sharedAddress = inTurn(click('Share'), (page) => page.locator('dialog .field').first().inputValue());
+const rustles = (page) => page.evaluate(() => window.rustles);
+/** The book of an interface from right to left goes on to the right all the same. */
+const lieOfInterface = (page) => page.evaluate(() => {
+  const { left } = document.querySelector('.next').getBoundingClientRect();
+  return `${getComputedStyle(document.querySelector('.bar')).direction}, on to the ${left > innerWidth / 2 ? 'right' : 'left'}`;
+});
+const heading = (page) => page.getByRole('heading', { level: 1 }).textContent();
+
+const LOGO = 'files/page/2.jpg';
+const NO_PICTURES = { readerData: 'NO', largePageWidth: 0, largePageHeight: 0, pageWidth: 900, pageHeight: 1200 };
+const [BAR, INK] = ['rgb(247, 244, 237)', 'rgb(74, 68, 58)'];
+
+/** Key, value, what is looked at, what that is without the value, and with it. All of them are set at once. */
+const AT_REST = [
+  ['bookTitle', 'Herbst', heading, TITLE, 'Herbst'],
+  ['pageEdges', 'NO', count('.edge'), 2, 0],
+  ['pageShadow', 'NO', styles('.side[data-drawn="12"]', 'boxShadow'), /px/, 'none'],
+  ['backgroundColor', '#102030', styles('.leafcast', 'backgroundColor'), 'rgb(230, 225, 214)', 'rgb(16, 32, 48)'],
+  ['bgImageURL', LOGO, styles('.leafcast', 'backgroundImage'), /files\/extfile\/bgImageURL\.png/, /files\/page\/2\.jpg/],
+  ['bgImagePosition', 'Fill', styles('.leafcast', 'backgroundSize'), 'auto', 'cover'],
+  ...['.bar', '.foot', '.next'].flatMap((selector) => [
+    ['toolBarColor', '#405060', styles(selector, 'backgroundColor'), BAR, 'rgb(64, 80, 96)'],
+    ['toolBarTextColor', '#a0b0c0', styles(selector, 'color'), INK, 'rgb(160, 176, 192)'],
+  ]),
+  ['LogoFile', LOGO, styles('.bar .logo img', 'height'), '', '36px'],
+  ['LogoFile', LOGO, attributes('.bar .logo img', 'src'), '', LOGO],
+  ['appLogoLinkURL', 'http://www.example.org', attributes('.bar a.logo', 'href'), '', 'http://www.example.org'],
+  ['OpenWindow', '_self', attributes('.link[href^=http]', 'target'), '_blank', '_self'],
+];
+
+/** The same, one by one; then what else is set, and how the book is opened. */
+const BY_DEEDS = [
+  ['pageWidth', 600, shape, 0.75, 0.5, NO_PICTURES],
+  ['pageHeight', 900, shape, 0.75, 1, NO_PICTURES],
+  ['viewMode', 'Single', pressed('ArrowRight'), 'ii–iii', 'ii'],
+  ['viewMode', 'Double', pressed('ArrowRight'), 'ii', 'ii–iii', {}, { width: 768, height: 1024 }],
+  ['coverAlone', 'NO', destination, 'Cover', 'Cover–ii'],
+  ['hardCover', 'YES', heldCover],
+  ['rightToLeft', 'YES', pressed('ArrowLeft'), 'Cover', 'ii–iii'],
+  ['pageColor', '#123456', colourAboveAWidePage, '255,255,255', '18,52,86', { viewMode: 'Single' }, { hash: '#page/9' }],
+  ['bgImagePosition', 'Center', styles('.leafcast', 'backgroundRepeat'), 'repeat', 'no-repeat'],
+  ['toolBarVisible', 'NO', count('.bar'), 1, 0],
+  ['keyboardControl', 'NO', pressed('ArrowRight'), 'ii–iii', 'Cover'],
+  ['keyboardControl', 'NO', count('.tool[title="Keys"]'), 1, 0],
+  ['wheelTurns', 'NO', inTurn(turnWheel, destination), 'ii–iii', 'Cover'],
+  ['turnDuration', 3000, inTurn(stopClock, press('ArrowRight'), runClock(1200), isStill), true, false],
+  ['rememberLastPage', 'NO', inTurn(reopen, openPages, destination), 'Back', 'Cover'],
+  ['autoTurnSeconds', 20, inTurn(stopClock, click('Turn pages automatically'), runClock(8000), destination), 'ii–iii', 'Cover'],
+  ['turnSound', 'YES', inTurn(press('ArrowRight'), rustles), 0, 1, { soundVisible: 'NO' }],
+  ['languageSetting', 'Spanish', attributes('html', 'lang'), 'fr', 'es', {}, { locale: 'fr-CA' }],
+  ['languageSetting', 'Arabic', lieOfInterface, 'ltr, on to the right', 'rtl, on to the right'],
+  ['OpenWindow', '_self', attributes('.bar a.logo', 'target'), '_blank', '_self', { LogoFile: LOGO, appLogoLinkURL: 'http://www.example.org' }],
+  ['linkColor', '#ff0000', inTurn(focusPage, press('Tab'), ringOfFocus), 'rgb(176, 103, 42)', 'rgb(255, 0, 0)', {}, { hash: '#page/2' }],
+  ['shareURL', 'https://www.example.org/book/', sharedAddress, /^file:/, 'https://www.example.org/book/#page/1'],
+  ['readerData', 'NO', count('.link'), 18, 0, {}, { hash: '#page/2' }],
+];
+
+const CONTROLS = {
+  turnButtonsVisible: ['button', 'Next page'], pageFieldVisible: ['textbox', 'Page number'], sliderVisible: ['slider', 'Place in the book'],
+  thumbnailsVisible: ['button', 'Page overview'], contentsVisible: ['button', 'Contents'], searchVisible: ['button', 'Search'],
+  textViewVisible: ['button', 'Text of the book'], zoomVisible: ['button', 'Zoom in'], viewModeVisible: ['button', 'View: automatic'],
+  printVisible: ['button', 'Print'], shareVisible: ['button', 'Share'], autoTurnVisible: ['button', 'Turn pages automatically'],
+  soundVisible: ['button', 'Sound of turning pages'], motionVisible: ['button', 'Less motion'], helpVisible: ['button', 'Keys'],
+  fullScreenButtonVisible: ['button', 'Full screen'],
+};
+
+function expect(seen, expected, key) {
+  if (expected instanceof RegExp) assert.match(String(seen), expected, key);
+  else assert.equal(String(seen), String(expected), key);
+}
+
+describe('each property of the template float does what it says:', () => {
+  let browser, book;
+  const books = [];
+
+  before(async () => {
+    book = publishMagazine('--style', 'Wall-line');
+    books.push(book);
+    browser = await launchBrowser();
+  });
+
+  afterEach(() => Promise.all(browser.contexts().map((context) => context.close())));
+
+  after(async () => {
+    await browser?.close();
+    books.forEach(removeBook);
+  });
+
+  async function see(look, settings, { width = 1280, height = 800, hash, locale } = {}) {
+    books.push(variantOf(book, settings));
+    const context = await browser.newContext({ viewport: { width, height }, locale });
+    await context.addInitScript(() => {
+      window.rustles = 0;
+      AudioBufferSourceNode.prototype.start = () => window.rustles++;
+    });
+    const page = await openBook(context, books.at(-1), { hash });
+    if (settings.largePageWidth !== 0) await openPages(page);
+    const seen = await look(page);
+    assert.deepEqual(page.troubles, []);
+    return seen;
+  }
+
+  it('what is seen at rest', async () => {
+    const lookAtAll = async (page) => {
+      const seen = [];
+      for (const [, , look] of AT_REST) seen.push(await look(page));
+      return seen;
+    };
+    const settings = Object.fromEntries(AT_REST);
+    const [before, changed] = [await see(lookAtAll, {}, { hash: '#page/12' }), await see(lookAtAll, settings, { hash: '#page/12' })];
+    for (const [index, [key, , , without, with_]] of AT_REST.entries()) {
+      expect(before[index], without, key);
+      expect(changed[index], with_, key);
+    }
+  });
+
+  for (const [key, value, look, without, with_, given = {}, options = {}] of BY_DEEDS)
+    it(`${key} ${value}`, async () => {
+      const [before, changed] = [await see(look, given, options), await see(look, { ...given, [key]: value }, options)];
+      if (without === undefined) return assert.ok(before !== changed, 'the same is seen with it and without');
+      expect(before, without);
+      expect(changed, with_);
+    });
+
+  it('every control is shown until it is switched off', async () => {
+    const counts = async (page) => {
+      const found = Object.entries(CONTROLS).map(async ([key, [role, name]]) => [key, await page.getByRole(role, { name }).count()]);
+      return Object.fromEntries(await Promise.all(found));
+    };
+    const each = (value) => Object.fromEntries(Object.keys(CONTROLS).map((key) => [key, value]));
+    assert.deepEqual(await see(counts, {}), each(1));
+    assert.deepEqual(await see(counts, each('NO')), each(0));
+  });
+
+  it('none is left out here', () => {
+    const leaves = (properties) => properties.flatMap(({ key, children }) => (children ? leaves(children) : [key]));
+    const float = TEMPLATES.find(({ name }) => name === 'float');
+    const looked = new Set([...AT_REST, ...BY_DEEDS].map(([key]) => key).concat(Object.keys(CONTROLS)));
+    assert.deepEqual(leaves(float.properties).filter((key) => !looked.has(key)), []);
+  });
+});
