@@ -4,6 +4,7 @@ import { create } from './dom.ts';
 import type { Texts } from './texts/english.ts';
 import type { Ui } from './ui.ts';
 import type { ViewKind } from './view.ts';
+import { canBeFullScreen } from './viewTools.ts';
 
 type Row = readonly [name: keyof Texts, keys: readonly string[]];
 
@@ -17,16 +18,19 @@ const WAYS: Readonly<Record<ViewKind, readonly Row[]>> = {
   scroll: [['keyScroll', ['↑', '↓', 'Space', 'Page Up', 'Page Down']]],
 };
 
-/** Which keys do what. */
+/** Which keys do what in this book and this browser. */
 export function openHelpDialog(ui: Ui): void {
   const { say } = ui;
+  const { shows } = ui.reader.settings;
+  const search: readonly Row[] = shows.search && ui.texts.hasText ? [['search', ['/']]] : [];
+  const fullScreen: readonly Row[] = shows.fullScreen && canBeFullScreen() ? [['fullScreen', ['F']]] : [];
   const rows: readonly Row[] = [
     ...WAYS[ui.reader.kind],
     ['keyEnds', ['Home', 'End']],
     ['keyZoom', ['+', '−']],
     ['fit', ['0']],
-    ['fullScreen', ['F']],
-    ['search', ['/']],
+    ...fullScreen,
+    ...search,
     ['help', ['?']],
     ['keyClose', ['Esc']],
   ];

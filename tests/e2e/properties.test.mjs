@@ -77,6 +77,7 @@ const lieOfInterface = (page) => page.evaluate(() => {
   const { left } = document.querySelector('.next').getBoundingClientRect();
   return `${getComputedStyle(document.querySelector('.bar')).direction}, on to the ${left > innerWidth / 2 ? 'right' : 'left'}`;
 });
+const keysShown = (page) => page.locator('dialog kbd').allTextContents();
 const heading = (page) => page.getByRole('heading', { level: 1 }).textContent();
 
 const LOGO = 'files/page/2.jpg';
@@ -115,6 +116,7 @@ const BY_DEEDS = [
   ['toolBarVisible', 'NO', count('.bar'), 1, 0],
   ['keyboardControl', 'NO', pressed('ArrowRight'), 'ii–iii', 'Cover'],
   ['keyboardControl', 'NO', count('.tool[title="Keys"]'), 1, 0],
+  ['searchVisible', 'NO', inTurn(press('?'), keysShown), /\//, /^[^/]*$/],
   ['wheelTurns', 'NO', inTurn(turnWheel, destination), 'ii–iii', 'Cover'],
   ['turnDuration', 3000, inTurn(stopClock, press('ArrowRight'), runClock(1200), isStill), true, false],
   ['rememberLastPage', 'NO', inTurn(reopen, openPages, destination), 'Back', 'Cover'],
