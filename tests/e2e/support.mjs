@@ -63,26 +63,28 @@ export function variantOf(book, settings) {
 /** Opens a book from its folder. */
 export const openBook = (browser, folder, options) => openBookAt(browser, pathToFileURL(folder).href + '/', options);
 
-/**
- * Opens the book at an address that ends with a slash. `page.troubles` collects errors, failed
- * requests and requests that leave the book.
- */
+/** Opens the book at an address that ends with a slash, and collects its troubles. */
 export async function openBookAt(browser, home, { width = 1280, height = 800, hash = '', ...context } = {}) {
   const page = await browser.newPage({ viewport: { width, height }, ...context });
+  collectTroubles(page, home);
+  await page.goto(`${home}index.html${hash}`);
+  return page;
+}
+
+/** `page.troubles` gets errors, failed requests and requests that leave the book. */
+export function collectTroubles(page, home) {
   page.troubles = [];
   page.on('console', (message) => message.type() === 'error' && page.troubles.push(message.text()));
   page.on('pageerror', (error) => page.troubles.push(error.message));
   page.on('requestfailed', (request) => {
     // A jump gives up the pictures that were under way.
     const { errorText } = request.failure();
-    if (errorText !== 'net::ERR_ABORTED') page.troubles.push(`${errorText}: ${request.url()}`);
+    if (!/_ABORTED$/.test(errorText)) page.troubles.push(`${errorText}: ${request.url()}`);
   });
   page.on('response', (response) => response.status() >= 400 && page.troubles.push(`${response.status()}: ${response.url()}`));
   page.on('request', (request) => {
     if (!/^(data|blob):/.test(request.url()) && !request.url().startsWith(home)) page.troubles.push(`foreign: ${request.url()}`);
   });
-  await page.goto(`${home}index.html${hash}`);
-  return page;
 }
 
 /** The places of the pages that lie open with their pictures drawn, once no leaf moves any more. */
@@ -93,7 +95,7 @@ export async function openPages(page) {
     const isStill = document.querySelector('.air').hidden;
     return isStill && shown.length > 0 && shown.every((place) => drawn.includes(place));
   });
-  return page.locator('.page').evaluateAll((pages) => pages.map((each) => Number(each.dataset.place)));
+  return page.evaluate(() => [...document.querySelectorAll('.page')].map((each) => Number(each.dataset.place)));
 }
 
 /** Does what turns pages; answers the places that lie open once other ones do. */
