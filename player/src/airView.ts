@@ -29,7 +29,7 @@ export class AirView {
 
   /** The lowest leaf first. */
   paint(leaves: readonly LeafInTheAir[], layout: Layout, space: Box, rightToLeft: boolean, quality: Quality): void {
-    const ratio = pixelRatio(quality);
+    const ratio = Math.min(devicePixelRatio, quality.mostPixels);
     const room = overlap(roomAround(layout), space) ?? layout.book;
     putCanvas(this.element, room, ratio);
     this.element.hidden = false;
@@ -44,9 +44,6 @@ export class AirView {
       else paintLeaf(context, layout.leaf, inPixels(curl, layout.leaf.height), faces, ground, quality);
   }
 }
-
-export const pixelRatio = (quality: Quality): number =>
-  quality.fullPixels ? devicePixelRatio : Math.min(devicePixelRatio, 1);
 
 function roomAround({ leaf, book, hingeX }: Layout): Box {
   const head = Math.round(leaf.height * HEADROOM);

@@ -2,7 +2,7 @@
 import type { Book } from './book.ts';
 import { putCanvas } from './canvas.ts';
 import { type FaceSource, type Paper, paintFace } from './facePainter.ts';
-import type { Box } from './geometry.ts';
+import type { Box, Size } from './geometry.ts';
 import { type PictureRequest, Pictures } from './pictures.ts';
 
 /** The pictures of a book's pages, on canvases that show a whole page each. */
@@ -39,14 +39,14 @@ export class BookPictures {
     return this.book.pages[place - 1]?.width === 0 || this.pictures.hasFailed(place);
   }
 
-  /** Asks for pages that exist, at the widths of their boxes in CSS pixels; most urgent first. */
-  want(places: readonly number[], seen: (place: number) => boolean, widthOf: (place: number) => number): void {
+  /** Asks for pages that exist, at the sizes of their boxes in CSS pixels; most urgent first. */
+  want(places: readonly number[], seen: (place: number) => boolean, sizeOf: (place: number) => Size): void {
     const wanted = [...new Set(places)].filter((place) => place >= 1 && place <= this.book.pages.length);
-    const request = (place: number): PictureRequest => ({
-      place,
-      width: Math.round(widthOf(place) * devicePixelRatio),
-      seen: seen(place),
-    });
+    const request = (place: number): PictureRequest => {
+      const { width, height } = sizeOf(place);
+      const size = { width: Math.round(width * devicePixelRatio), height: Math.round(height * devicePixelRatio) };
+      return { place, size, seen: seen(place) };
+    };
     this.pictures.want(wanted.map(request));
   }
 

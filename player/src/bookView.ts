@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
-import { AirView, type LeafInTheAir, pixelRatio } from './airView.ts';
+import { AirView, type LeafInTheAir } from './airView.ts';
 import { type Book, isWide } from './book.ts';
 import { makeCanvas, putCanvas } from './canvas.ts';
 import { type FaceSource, type HingeSide, type Paper, paintFace, pictureBox } from './facePainter.ts';
 import { FaceCache } from './faceCache.ts';
 import { type Box, clamp, type Point, type Size } from './geometry.ts';
 import type { Quality } from './governor.ts';
+import { cancelIdle, whenIdle } from './idle.ts';
 import { type Layout, layoutBook, type Mode } from './layout.ts';
-import type { PaintedFace } from './leafPainter.ts';
+import type { LeafFaces, PaintedFace } from './leafPainter.ts';
 import { PageEdges } from './pageEdges.ts';
 import { type PictureRequest, Pictures } from './pictures.ts';
+import { RestingSides, type Side, SIDES } from './restingSides.ts';
 import { type PlacedPage, SharpView } from './sharpView.ts';
 import { arrange, type Face, placesOf, type Spread, spreadOf } from './spreads.ts';
 import { stiffnessOf } from './spring.ts';
@@ -28,11 +30,8 @@ export interface ViewOptions {
   readonly wheelTurns: boolean;
 }
 
-export type Side = 'start' | 'end';
-
 const SPREADS_AHEAD = 2;
 const SPREADS_BEHIND = 1;
-const FULL: Quality = { fullPixels: true, stripsPerQuarter: 5 };
 
 /**
  * The open book: two resting sides and the leaves in the air, in a sheet that zooming scales. Knows
@@ -40,12 +39,15 @@ const FULL: Quality = { fullPixels: true, stripsPerQuarter: 5 };
  */
 export class BookView implements View {
   readonly sheet = document.createElement('div');
-  private readonly sides: Record<Side, HTMLCanvasElement> = { start: makeCanvas('side'), end: makeCanvas('side') };
+  private readonly sides = new RestingSides();
   private readonly air = new AirView();
   private readonly faces = new FaceCache();
   private readonly edges: PageEdges;
   private reducedMotion = false;
   private hasTurned = false;
+  private heading: 1 | -1 = 1; // of the last turn
+  private lastDestination = 0;
+  private preparation = 0;
   private readonly pictures: Pictures;
   private readonly sharp: SharpView;
   private readonly source: FaceSource;
@@ -70,8 +72,9 @@ export class BookView implements View {
       (at) => (page(at)?.width === 0 ? '' : (page(at)?.image ?? '')),
       (at) => ({ width: page(at)?.width ?? 0, height: page(at)?.height ?? 0 }),
       (at) => {
-        this.faces.forget();
-        this.paintAll();
+        this.paintSides();
+        if (this.turning.isMoving) this.turning.wake();
+        else this.prepareSoon();
         events.pictured(at);
       },
     );
@@ -84,7 +87,7 @@ export class BookView implements View {
     this.sheet.className = 'sheet';
     this.edges = new PageEdges((fraction) => events.jumpAsked(Math.ceil(fraction * book.pages.length)));
     if (options.pageEdges) this.sheet.append(this.edges.start, this.edges.end);
-    this.sheet.append(this.sides.start, this.sides.end, this.sharp.element, this.air.element);
+    this.sheet.append(this.sides.canvases.start, this.sides.canvases.end, this.sharp.element, this.air.element);
     host.append(this.sheet);
     this.arrangeAt(place);
     new ResizeObserver(() => this.arrangeAt(this.place)).observe(host);
@@ -198,6 +201,9 @@ export class BookView implements View {
   }
 
   private tellTurned(): void {
+    const { destination } = this.turning;
+    if (destination !== this.lastDestination) this.heading = destination > this.lastDestination ? 1 : -1;
+    this.lastDestination = destination;
     const shift = this.shiftAt(this.turning.destination);
     if (shift !== this.shift) {
       this.shift = shift;
@@ -236,10 +242,11 @@ export class BookView implements View {
     const before = makeCanvas('fading');
     putCanvas(before, book, devicePixelRatio);
     const context = before.getContext('2d')!;
-    for (const side of ['start', 'end'] as const) {
+    for (const side of SIDES) {
       const box = this.sideBox(side);
+      const canvas = this.sides.canvases[side];
       const [x, width] = [(box.x - book.x) * devicePixelRatio, box.width * devicePixelRatio];
-      if (!this.sides[side].hidden) context.drawImage(this.sides[side], x, 0, width, before.height);
+      if (!canvas.hidden) context.drawImage(canvas, x, 0, width, before.height);
     }
     before.addEventListener('animationend', () => before.remove());
     this.sheet.append(before);
@@ -281,21 +288,26 @@ export class BookView implements View {
       isWide: (at) => isWide(this.book.pages[at - 1], this.book.shape),
     });
     this.startTurning(spreadOf(this.spreads, place));
-    for (const side of ['start', 'end'] as const)
-      putCanvas(this.sides[side], this.sideBox(side), devicePixelRatio);
-    this.faces.forget();
+    // What takes longest is under way before anything is drawn.
+    this.pictures.want(this.wantedPictures());
+    for (const side of SIDES) this.sides.place(side, this.sideBox(side));
     this.shift = this.shiftAt(this.turning.destination);
     this.setZoom(NO_ZOOM);
+    this.air.clear();
     this.showGround();
     this.events.settled(this.places);
   }
 
   private startTurning(spread: number): void {
     const leaf = { width: this.leafShape, height: 1 };
+    this.lastDestination = spread;
     this.turning = new Turning(this.spreads.length, spread, leaf, stiffnessOf(this.options.turnSeconds), {
       frame: (quality) => this.paintAir(quality),
       changed: () => this.showGround(),
-      settled: (settled) => this.events.settled(this.placesAt(settled)),
+      settled: (settled) => {
+        this.events.settled(this.placesAt(settled));
+        this.prepareSoon();
+      },
     });
   }
 
@@ -313,10 +325,10 @@ export class BookView implements View {
 
   private showGround(): void {
     this.hasTurned ||= this.turning.isMoving;
-    this.paintAll();
+    this.pictures.want(this.wantedPictures());
+    this.paintSides();
     const last = Math.max(this.spreads.length - 1, 1);
     this.edges.place(this.layout.book, this.book.pages.length / 2, this.turning.lowest / last, this.options.rightToLeft);
-    this.pictures.want(this.wantedPictures());
     this.events.placed(this.placedPages());
   }
 
@@ -330,16 +342,19 @@ export class BookView implements View {
     for (let step = 1; step <= SPREADS_BEHIND; step++) next.push(destination - step);
     const placesSeen = new Set(seen.flatMap((spread) => this.placesAt(spread)));
     const places = new Set([...placesSeen, ...next.flatMap((spread) => this.placesAt(spread))]);
-    return [...places].map((place) => ({ place, width: this.pixelsAcross(place), seen: placesSeen.has(place) }));
+    return [...places].map((place) => ({ place, size: this.pictureSize(place), seen: placesSeen.has(place) }));
   }
 
-  private pixelsAcross(place: number): number {
+  /** In pixels, of the page as it is drawn. */
+  private pictureSize(place: number): Size {
     const wide = this.layout.double && isWide(this.book.pages[place - 1], this.book.shape);
-    return Math.round(this.layout.leaf.width * devicePixelRatio * (wide ? 2 : 1));
+    const face: Face = { place, part: wide ? 'start' : 'whole' };
+    const { width, height } = pictureBox(this.layout.leaf, face, 'none', this.source.shape(place));
+    return { width: Math.round(width * devicePixelRatio), height: Math.round(height * devicePixelRatio) };
   }
 
   private placedPages(): PlacedPage[] {
-    return (['start', 'end'] as const).flatMap((side) => {
+    return SIDES.flatMap((side) => {
       const face = this.faceOnGround(side);
       if (!face || face.place === 0) return [];
       const window = this.sideBox(side);
@@ -348,19 +363,16 @@ export class BookView implements View {
     });
   }
 
-  private paintAll(): void {
-    for (const side of ['start', 'end'] as const) this.paintSide(side, this.faceOnGround(side));
-    this.paintAir(FULL);
+  private paintSides(): void {
+    for (const side of SIDES) this.paintSide(side, this.faceOnGround(side));
   }
 
   private paintSide(side: Side, face: Face | undefined): void {
-    const canvas = this.sides[side];
-    canvas.hidden = !face;
+    const canvas = this.sides.canvases[side];
     canvas.dataset.drawn = face && this.pictures.get(face.place) ? String(face.place) : '';
-    const context = canvas.getContext('2d')!;
-    const { leaf } = this.layout;
-    context.setTransform(canvas.width / leaf.width, 0, 0, canvas.height / leaf.height, 0, 0);
-    if (face) paintFace(context, leaf, face, this.hingeOf(side), this.source, this.options.paper);
+    this.sides.show(side, face, face && this.source.picture(face.place), (context, leaf) =>
+      paintFace(context, leaf, face, this.hingeOf(side), this.source, this.options.paper),
+    );
   }
 
   private hingeOf(side: Side): HingeSide {
@@ -369,29 +381,44 @@ export class BookView implements View {
   }
 
   private paintAir(quality: Quality): void {
-    this.faces.beginFrame();
-    const leaves = this.turning.leaves.map((leaf) => this.inTheAir(leaf, pixelRatio(quality)));
-    if (leaves.length === 0) this.air.clear();
-    else this.air.paint(leaves, this.layout, this.airSpace(), this.options.rightToLeft, quality);
+    if (!this.turning.isMoving) return this.air.clear();
+    const leaves = this.turning.leaves.map((leaf) => this.inTheAir(leaf));
+    this.air.paint(leaves, this.layout, this.airSpace(), this.options.rightToLeft, quality);
+    this.faces.sweep();
   }
 
-  private inTheAir(leaf: FlyingLeaf, ratio: number): LeafInTheAir {
+  /** While nothing else is to be done, so that the first frame of the next turn does not have to paint it. */
+  private prepareSoon(): void {
+    cancelIdle(this.preparation);
+    this.preparation = whenIdle(() => this.prepareNextLeaf());
+  }
+
+  private prepareNextLeaf(): void {
+    if (this.turning.isMoving || this.reducedMotion) return;
+    const from = this.turning.destination - (this.heading > 0 ? 0 : 1);
+    if (!this.spreads[from] || !this.spreads[from + 1]) return;
+    this.facesOf({ from, to: from + 1 });
+    this.faces.sweep();
+  }
+
+  private inTheAir(leaf: FlyingLeaf): LeafInTheAir {
     const { lowest, highest } = this.turning;
-    const back = this.layout.double ? this.spreads[leaf.to]?.start : undefined;
     return {
       curl: leaf.mover.curl,
       opening: leaf.mover.opening,
       stiff: this.isBoard(leaf),
-      faces: {
-        front: this.painted(this.spreads[leaf.from]?.end, 'end', ratio),
-        back: this.painted(back, 'start', ratio),
-      },
+      faces: this.facesOf(leaf),
       // Without a page on the ground and no leaf below, the background takes no shadow.
       ground: {
         start: leaf.from !== lowest || this.spreads[lowest]?.start !== undefined,
         end: leaf.to !== highest || this.spreads[highest]?.end !== undefined,
       },
     };
+  }
+
+  private facesOf({ from, to }: Pick<FlyingLeaf, 'from' | 'to'>): LeafFaces {
+    const back = this.layout.double ? this.spreads[to]?.start : undefined;
+    return { front: this.painted(this.spreads[from]?.end, 'end'), back: this.painted(back, 'start') };
   }
 
   /** The cover and the last leaf of a hardback. */
@@ -401,9 +428,10 @@ export class BookView implements View {
     return leaf.from === 0 || (closesAtEnd && leaf.to === this.spreads.length - 1);
   }
 
-  private painted(face: Face | undefined, side: Side, ratio: number): PaintedFace {
+  private painted(face: Face | undefined, side: Side): PaintedFace {
     const key = `${side} ${face?.place} ${face?.part}`;
-    return this.faces.painted(key, this.layout.leaf, ratio, (context, leaf) => {
+    const picture = face && this.source.picture(face.place);
+    return this.faces.painted(key, picture, this.layout.leaf, devicePixelRatio, (context, leaf) => {
       if (this.options.rightToLeft) context.transform(-1, 0, 0, 1, leaf.width, 0);
       paintFace(context, leaf, face, this.hingeOf(side), this.source, this.options.paper);
     });

@@ -2,13 +2,17 @@
 import type { Size } from './geometry.ts';
 import type { FacePainter, PaintedFace } from './leafPainter.ts';
 
+interface KeptFace extends PaintedFace {
+  readonly made: unknown;
+}
+
 /** Sides of leaves in the air, painted once and drawn in every strip of every frame. */
 export class FaceCache {
-  private readonly kept = new Map<string, PaintedFace>();
+  private readonly kept = new Map<string, KeptFace>();
   private used = new Set<string>();
 
-  /** To be called where a frame begins: what the last one did not draw goes. */
-  beginFrame(): void {
+  /** What was not asked for since the last call goes. */
+  sweep(): void {
     for (const [key, { picture }] of this.kept)
       if (!this.used.has(key)) {
         picture.width = 0; // frees the pixels at once
@@ -17,17 +21,16 @@ export class FaceCache {
     this.used = new Set();
   }
 
-  /** After pictures or sizes have changed. */
-  forget(): void {
-    this.used.clear();
-    this.beginFrame();
-  }
-
-  /** What a painter paints, with so many pixels a unit. */
-  painted(key: string, leaf: Size, ratio: number, paint: FacePainter): PaintedFace {
-    const whole = `${key} ${ratio}`;
+  /**
+   * What a painter paints, with so many pixels a unit. It is painted anew when it was `made` of
+   * something else before.
+   */
+  painted(key: string, made: unknown, leaf: Size, ratio: number, paint: FacePainter): PaintedFace {
+    const whole = `${key} ${ratio} ${leaf.width} ${leaf.height}`;
     this.used.add(whole);
-    const face = this.kept.get(whole) ?? painted(leaf, ratio, paint);
+    const kept = this.kept.get(whole);
+    if (kept && kept.made === made) return kept;
+    const face = { ...painted(leaf, ratio, paint), made };
     this.kept.set(whole, face);
     return face;
   }

@@ -56,21 +56,24 @@ function paintPicture(
   context.restore();
 }
 
-/** Where the whole page lies in the leaf's coordinates; half of a wide one lies outside. */
+/**
+ * Where the whole page lies in the leaf's coordinates; half of a wide one lies outside. In whole
+ * pixels, because a picture of the same size is then copied and not resampled.
+ */
 export function pictureBox(leaf: Size, face: Face, hinge: HingeSide, shape: number): { x: number; y: number } & Size {
   const space = face.part === 'whole' ? leaf : { width: 2 * leaf.width, height: leaf.height };
   const size = shape > 0 ? nearly(fit(shape, space), space) : space;
-  const y = (leaf.height - size.height) / 2;
+  const y = Math.floor((leaf.height - size.height) / 2);
   if (face.part !== 'whole') return { x: (hinge === 'right' ? leaf.width : 0) - size.width / 2, y, ...size };
   const gap = leaf.width - size.width;
-  const x = hinge === 'left' ? 0 : hinge === 'right' ? gap : gap / 2;
+  const x = hinge === 'left' ? 0 : hinge === 'right' ? gap : Math.floor(gap / 2);
   return { x, y, ...size };
 }
 
 /** Pages whose shape differs by a rounding only fill their leaf. */
-function nearly(size: Size, space: Size): Size {
-  const close = size.width > space.width * 0.985 && size.height > space.height * 0.985;
-  return close ? space : size;
+function nearly({ width, height }: Size, space: Size): Size {
+  const close = width > space.width * 0.985 && height > space.height * 0.985;
+  return close ? space : { width: 2 * Math.round(width / 2), height: Math.round(height) };
 }
 
 function paintNumber(context: CanvasRenderingContext2D, leaf: Size, label: string, ink: string): void {

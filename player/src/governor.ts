@@ -2,15 +2,16 @@
 
 /** How much work a frame may be. Steps down while frames come late; a new turn starts at the top. */
 export interface Quality {
-  readonly fullPixels: boolean; // else one canvas pixel a CSS pixel
+  readonly mostPixels: number; // of the canvas, for each CSS pixel across
   readonly stripsPerQuarter: number; // 0: a flat fold
 }
 
+/** Pixels weigh most, also on screens that have but one to a CSS pixel: moving paper may be soft. */
 const LEVELS: readonly Quality[] = [
-  { fullPixels: true, stripsPerQuarter: 5 },
-  { fullPixels: false, stripsPerQuarter: 5 },
-  { fullPixels: false, stripsPerQuarter: 3 },
-  { fullPixels: false, stripsPerQuarter: 0 },
+  { mostPixels: Infinity, stripsPerQuarter: 5 },
+  { mostPixels: 1, stripsPerQuarter: 3 },
+  { mostPixels: 0.65, stripsPerQuarter: 3 },
+  { mostPixels: 0.65, stripsPerQuarter: 0 },
 ];
 const LATE_SECONDS = 0.02;
 const LATE_FRAMES = 2;

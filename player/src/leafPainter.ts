@@ -2,7 +2,7 @@
 import { type Curl, seenAt, type Strip, strips } from './curl.ts';
 import { scale, type Size } from './geometry.ts';
 import { paintShadowOnGround } from './leafShadow.ts';
-import { type Outline, partOf, path, trace } from './outline.ts';
+import { besideBack, clippedFrom, type Outline, partOf, path, trace } from './outline.ts';
 
 /** Draws one side of a leaf: the leaf's box from (0, 0), as a reader sees it lying flat. */
 export type FacePainter = (context: CanvasRenderingContext2D, leaf: Size) => void;
@@ -56,7 +56,7 @@ export function paintLeaf(
   paintShadowOnGround(context, leaf, curl, ground);
   const front = laidOn(leaf, faces.front, false);
   const back = laidOn(leaf, faces.back, true);
-  fillPart(context, front, partOf(leaf, curl, -Infinity, SEAM));
+  fillFlat(context, leaf, curl, faces.front.picture, front);
   const perQuarter = curl.radius > 0 ? quality.stripsPerQuarter : 0;
   const rolled = perQuarter > 0 ? curl : sharp(curl);
   const all = strips(rolled, leaf, perQuarter);
@@ -70,11 +70,36 @@ export function paintLeaf(
   }
 }
 
+/** What has not left the ground; as much of it as can be as a rectangle, which is copied and not sampled. */
+function fillFlat(
+  context: CanvasRenderingContext2D,
+  leaf: Size,
+  curl: Curl,
+  picture: HTMLCanvasElement,
+  paper: CanvasPattern,
+): void {
+  const outline = partOf(leaf, curl, -Infinity, SEAM);
+  if (outline.length < 3) return;
+  const width = Math.max(0, Math.floor(Math.min(leaf.width, ...outline.filter(({ x }) => x > 0).map(({ x }) => x))) - 1);
+  const pixels = (width * picture.width) / leaf.width;
+  if (width > 0) context.drawImage(picture, 0, 0, pixels, picture.height, 0, 0, width, leaf.height);
+  const rest = clippedFrom(outline, { x: 1, y: 0 }, Math.max(width - 1, 0));
+  if (rest.length >= 3) fillPart(context, paper, rest);
+}
+
 function fillStrip(context: CanvasRenderingContext2D, leaf: Size, curl: Curl, strip: Strip, paper: CanvasPattern): void {
+  const parts = visibleParts(leaf, curl, strip, SEAM);
+  if (parts.length === 0) return;
   context.save();
   squeeze(context, curl, strip);
-  fillPart(context, paper, partOf(leaf, curl, strip.from - SEAM, strip.to + SEAM));
+  for (const part of parts) fillPart(context, paper, part);
   context.restore();
+}
+
+/** Of a strip's paper, as it would lie flat. */
+function visibleParts(leaf: Size, curl: Curl, { from, to, showsBack }: Strip, seam: number): Outline[] {
+  const outline = partOf(leaf, curl, from - seam, to + seam);
+  return (showsBack ? [outline] : besideBack(outline, curl, leaf)).filter(({ length }) => length >= 3);
 }
 
 /** A cylinder without strips is a fold where its back begins to lie flat. */
@@ -93,7 +118,6 @@ function laidOn(leaf: Size, { picture, paper }: PaintedFace, isBack: boolean): C
 }
 
 function fillPart(context: CanvasRenderingContext2D, paper: CanvasPattern, outline: Outline): void {
-  if (outline.length < 3) return;
   context.fillStyle = paper;
   path(context, outline);
   context.fill();
@@ -141,8 +165,8 @@ function fillSeen(
   style: string | CanvasGradient,
 ): void {
   context.beginPath();
-  for (const { from, to } of parts)
-    trace(context, partOf(leaf, curl, from, to).map((point) => seenAt(point, curl)));
+  for (const strip of parts)
+    for (const part of visibleParts(leaf, curl, strip, 0)) trace(context, part.map((point) => seenAt(point, curl)));
   context.fillStyle = style;
   context.fill();
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 import { type Curl, farthestReach, projected } from './curl.ts';
-import { add, length, type Point, scale, type Size, subtract } from './geometry.ts';
+import { add, dot, length, type Point, scale, type Size, subtract } from './geometry.ts';
 import type { Ground } from './leafPainter.ts';
 import { backPart, band, type Outline, path } from './outline.ts';
 
@@ -17,12 +17,23 @@ export function paintShadowOnGround(context: CanvasRenderingContext2D, leaf: Siz
   if (ground.end) context.rect(0, 0, leaf.width, leaf.height);
   context.clip();
   paintShadowAlong(context, leaf, curl, edge, edge + reach);
-  paintShadowAround(context, backPart(curl, leaf), Math.min(reach, curl.radius + leaf.width * 0.02));
+  paintShadowAround(context, backPart(curl, leaf), Math.min(reach, curl.radius + leaf.width * 0.02), isAtRoll(curl));
   context.restore();
 }
 
+/** Where the back comes down from the roll, which covers what lies beside it there. */
+const isAtRoll =
+  ({ direction, line }: Curl) =>
+  (point: Point): boolean =>
+    Math.abs(dot(direction, point) - line) < 0.5;
+
 /** Fades outwards from the sides of an outline, and round its corners. */
-function paintShadowAround(context: CanvasRenderingContext2D, outline: Outline, width: number): void {
+function paintShadowAround(
+  context: CanvasRenderingContext2D,
+  outline: Outline,
+  width: number,
+  isHidden: (point: Point) => boolean,
+): void {
   if (width < 0.5) return;
   outline.forEach((point, index) => {
     const next = outline[(index + 1) % outline.length]!;
@@ -31,9 +42,12 @@ function paintShadowAround(context: CanvasRenderingContext2D, outline: Outline, 
     if (side < 0.5) return;
     // Seen from above the paper lies on its face, so its outline runs the other way round.
     const outwards = scale({ x: -along.y, y: along.x }, width / side);
-    context.fillStyle = fading(context.createLinearGradient(point.x, point.y, point.x + outwards.x, point.y + outwards.y));
-    path(context, [point, next, add(next, outwards), add(point, outwards)]);
-    context.fill();
+    if (!isHidden(point) || !isHidden(next)) {
+      const end = add(point, outwards);
+      context.fillStyle = fading(context.createLinearGradient(point.x, point.y, end.x, end.y));
+      path(context, [point, next, add(next, outwards), end]);
+      context.fill();
+    }
     const corner = context.createRadialGradient(next.x, next.y, 0, next.x, next.y, width);
     context.fillStyle = fading(corner);
     const after = subtract(outline[(index + 2) % outline.length]!, next);

@@ -23,8 +23,21 @@ export function partOf(leaf: Size, curl: Curl, from: number, to: number): Point[
 export const backPart = (curl: Curl, leaf: Size): Point[] =>
   partOf(leaf, curl, Math.PI * curl.radius, Infinity).map((point) => seenAt(point, curl));
 
+/**
+ * What can be seen of an outline on the roll's first quarter. Where the paper goes over the whole
+ * roll and comes down behind it, its second quarter hides the first.
+ */
+export function besideBack(outline: Outline, curl: Curl, leaf: Size): Outline[] {
+  const { direction } = curl;
+  const along = { x: -direction.y, y: direction.x };
+  const covered = partOf(leaf, curl, Math.PI * curl.radius, Infinity).map((point) => dot(point, along));
+  if (covered.length === 0) return [outline];
+  const [least, most] = [Math.min(...covered), Math.max(...covered)];
+  return [clippedFrom(outline, scale(along, -1), -least), clippedFrom(outline, along, most)];
+}
+
 /** The part of a convex outline whose points are at least so far along a direction. */
-function clippedFrom(outline: Outline, direction: Point, least: number): Point[] {
+export function clippedFrom(outline: Outline, direction: Point, least: number): Point[] {
   const result: Point[] = [];
   outline.forEach((point, index) => {
     const next = outline[(index + 1) % outline.length]!;

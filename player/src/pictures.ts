@@ -16,7 +16,7 @@ export interface Picture {
 
 export interface PictureRequest {
   readonly place: number;
-  readonly width: number; // pixels
+  readonly size: Size; // pixels
   /** Whether the page is on the screen; the others wait until all of these are there. */
   readonly seen: boolean;
 }
@@ -70,7 +70,7 @@ export class Pictures {
     const { width: across, height: down } = this.sizeOf(place);
     const cut = [part.x * across, part.y * down, part.width * across, part.height * down].map(Math.round);
     const [x = 0, y = 0, w = 1, h = 1] = cut;
-    const options = resized(Math.min(width, w));
+    const options = resized({ width: Math.min(width, w) });
     return createImageBitmap(source, x, y, Math.max(w, 1), Math.max(h, 1), options);
   }
 
@@ -83,20 +83,20 @@ export class Pictures {
     }
   }
 
-  private isMissing({ place, width }: PictureRequest): boolean {
+  private isMissing({ place, size: { width } }: PictureRequest): boolean {
     if (this.failed.has(place) || this.running.has(place)) return false;
     const picture = this.held.get(place);
     return !picture || picture.wantedWidth < width * 0.98 || picture.wantedWidth > width * 1.6;
   }
 
-  private async load({ place, width }: PictureRequest): Promise<void> {
+  private async load({ place, size }: PictureRequest): Promise<void> {
     const controller = new AbortController();
     this.running.set(place, controller);
     try {
-      const bitmap = await this.decode(place, width, controller.signal);
+      const bitmap = await this.decode(place, size, controller.signal);
       this.held.get(place)?.bitmap.close();
       this.held.delete(place);
-      this.held.set(place, { bitmap, wantedWidth: width });
+      this.held.set(place, { bitmap, wantedWidth: size.width });
       this.dropOldest();
     } catch {
       if (!controller.signal.aborted) this.failed.add(place);
@@ -106,10 +106,10 @@ export class Pictures {
     this.startNext();
   }
 
-  private async decode(place: number, width: number, signal: AbortSignal): Promise<ImageBitmap> {
+  private async decode(place: number, size: Size, signal: AbortSignal): Promise<ImageBitmap> {
     const source = await this.source(place, signal);
-    const known = this.sizeOf(place).width;
-    const options = resized(known ? Math.min(width, known) : width);
+    const known = this.sizeOf(place);
+    const options = resized(known.width > 0 && known.width < size.width ? known : size);
     // A browser that can't resize here draws the whole picture smaller, a little more slowly.
     return createImageBitmap(source, options).catch(() => createImageBitmap(source));
   }
@@ -142,10 +142,12 @@ export class Pictures {
   }
 }
 
-const resized = (width: number): ImageBitmapOptions => ({
-  resizeWidth: Math.max(1, Math.round(width)),
-  resizeQuality: 'high',
-});
+/** Without a height the shape is kept. */
+function resized({ width, height }: { width: number; height?: number }): ImageBitmapOptions {
+  const pixels = (length: number) => Math.max(1, Math.round(length));
+  const options: ImageBitmapOptions = { resizeWidth: pixels(width), resizeQuality: 'high' };
+  return height ? { ...options, resizeHeight: pixels(height) } : options;
+}
 
 /** What a bitmap can be made of; see above for why it differs with the protocol. */
 export async function loadSource(url: string, signal = new AbortController().signal): Promise<Blob | HTMLImageElement> {

@@ -220,7 +220,7 @@ export class ScrollView implements View {
     this.pictures.want(
       [...range(first, last), last + 1, first - 1],
       (place) => place >= first && place <= last,
-      (place) => this.boxOf(place).width,
+      (place) => this.boxOf(place),
     );
     this.events.placed(this.placed());
   }

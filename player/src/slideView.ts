@@ -206,7 +206,7 @@ export class SlideView implements View {
     this.pictures.want(
       [here, ...seen.keys(), ...next],
       (place) => place === here || seen.has(place),
-      (place) => this.boxOf(place).width,
+      (place) => this.boxOf(place),
     );
   }
 

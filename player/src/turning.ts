@@ -103,7 +103,8 @@ export class Turning {
     this.wake();
   }
 
-  private wake(): void {
+  /** Asks for a frame; needed from outside when what is drawn has changed and not where it lies. */
+  wake(): void {
     if (this.request) return;
     this.last = 0;
     this.request = requestAnimationFrame((now) => this.tick(now));
