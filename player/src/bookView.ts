@@ -147,11 +147,15 @@ export class BookView implements View {
     this.zoomed = zoom.scale === 1 ? NO_ZOOM : keptInSight(zoom, this.openPart(), space);
     this.sheet.style.transition = '';
     this.placeSheet();
-    const { scale } = this.zoomed;
-    const seen = seenBox(this.zoomed, space);
-    if (scale > 1) this.sharp.showSoon(this.placedPages(), { ...seen, x: seen.x - this.shift }, scale);
-    else this.sharp.clear();
+    this.sharpen();
     this.events.zoomed(this.zoomed);
+  }
+
+  private sharpen(): void {
+    const { scale } = this.zoomed;
+    if (scale <= 1) return this.sharp.clear();
+    const seen = seenBox(this.zoomed, this.space());
+    this.sharp.showSoon(this.placedPages(), { ...seen, x: seen.x - this.shift }, scale);
   }
 
   /** A point of the host, in CSS pixels, in leaf coordinates (see curl.ts) with the height 1. */
@@ -305,6 +309,7 @@ export class BookView implements View {
       frame: (quality) => this.paintAir(quality),
       changed: () => this.showGround(),
       settled: (settled) => {
+        this.sharpen();
         this.events.settled(this.placesAt(settled));
         this.prepareSoon();
       },
@@ -325,6 +330,7 @@ export class BookView implements View {
 
   private showGround(): void {
     this.hasTurned ||= this.turning.isMoving;
+    if (this.turning.isMoving) this.sharp.clear();
     this.pictures.want(this.wantedPictures());
     this.paintSides();
     const last = Math.max(this.spreads.length - 1, 1);
