@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
-import { dirname, join } from 'node:path';
+import { join } from 'node:path';
 import { after, before, describe, it } from 'node:test';
 import { pathToFileURL } from 'node:url';
 import { launchBrowser } from '../../tools/browser.mjs';
-import { changedBook, publishMagazine, removeBook } from './support.mjs';
-
-const RESOURCES = process.env.LEAFCAST_RESOURCES || join(dirname(process.env.LEAFCAST ?? ''), '../share/leafcast');
+import { changedBook, publishMagazine, removeBook, RESOURCES } from './support.mjs';
 
 const FRAME = `<!DOCTYPE html><title>host</title>
 <iframe src="index.html" width="900" height="600"></iframe>

@@ -2,11 +2,14 @@
 import { spawnSync } from 'node:child_process';
 import { cpSync, mkdirSync, mkdtempSync, readdirSync, readFileSync, rmSync, symlinkSync, writeFileSync } from 'node:fs';
 import { tmpdir } from 'node:os';
-import { join } from 'node:path';
+import { dirname, join } from 'node:path';
 import { fileURLToPath, pathToFileURL } from 'node:url';
 import { colourPdf } from './colourPdf.mjs';
 
 export const pathOf = (name) => fileURLToPath(new URL(`../../${name}`, import.meta.url));
+
+/** Where the program that LEAFCAST names finds its templates. */
+export const RESOURCES = process.env.LEAFCAST_RESOURCES || join(dirname(process.env.LEAFCAST ?? ''), '../share/leafcast');
 
 /** Publishes the sample magazine with the program that LEAFCAST names; returns the book's folder. */
 export const publishMagazine = (...options) => publish(pathOf('samples/magazine.pdf'), newBookFolder(), options);

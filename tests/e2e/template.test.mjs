@@ -38,6 +38,12 @@ describe('the templates', () => {
     assert.deepEqual(known.filter((key) => !descriptions.includes(`<key>${key}</key>`)), []);
   });
 
+  it('have no setting that the guide to templates does not name', () => {
+    const guide = readFileSync(pathOf('docs/templates.md'), 'utf8');
+    const keys = TEMPLATES.flatMap(({ properties }) => properties.flatMap(({ children }) => children.map(({ key }) => key)));
+    assert.deepEqual(keys.filter((key) => !guide.includes(`\`${key}\``)), []);
+  });
+
   it('are described by what they are made from', () => {
     for (const template of TEMPLATES) {
       assert.equal(readFileSync(`${LIBRARY}${template.name}/flashTemplate.xml`, 'utf8'), description(template));
