@@ -17,7 +17,7 @@ describe('a published book', () => {
   }
 
   before(async () => {
-    book = published();
+    book = published('--set', 'turnDuration=150');
     browser = await launchBrowser();
   });
 
