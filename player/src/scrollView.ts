@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 import type { Book } from './book.ts';
 import { BookPictures } from './bookPictures.ts';
-import { makeCanvas } from './canvas.ts';
+import { makeCanvas, putCanvas } from './canvas.ts';
 import { anchorAt, type Column, heightOf, layoutColumn, placesBetween, placeAt, readingHeight } from './column.ts';
 import { create } from './dom.ts';
 import type { Paper } from './facePainter.ts';
@@ -47,6 +47,7 @@ export class ScrollView implements View {
   private aim: Aim | undefined;
   private reducedMotion = false;
   private shown = '';
+  private last = 0; // scrolled to
   private told: number;
   private rest = 0;
 
@@ -161,13 +162,18 @@ export class ScrollView implements View {
     const top = clamp(wanted, 0, Math.max(scrollHeight - clientHeight, 0));
     this.aim = { place, top, away: Math.abs(scrollTop - top) };
     this.host.scrollTo({ top, behavior });
+    this.last = this.host.scrollTop;
     this.scrolled();
   }
 
   private scrolled(): void {
+    const { scrollTop, clientHeight } = this.host;
+    // Whoever drags the scroll bar through the document does not look at what flies by.
+    const hurries = Math.abs(scrollTop - this.last) > clientHeight;
+    this.last = scrollTop;
     this.followAim();
     this.tellPlace();
-    this.showPages();
+    if (this.showPages() && !hurries) this.wantPictures();
     clearTimeout(this.rest);
     this.rest = window.setTimeout(() => this.settle(), REST_MILLISECONDS);
   }
@@ -189,6 +195,9 @@ export class ScrollView implements View {
   }
 
   private settle(): void {
+    this.wantPictures();
+    for (const [place, canvas] of this.canvases)
+      if (canvas.dataset.drawn === undefined) this.pictures.paint(canvas, place, this.boxOf(place));
     if (this.scale > 1) this.sharp.showSoon(this.placed(), this.seen(), this.scale);
     this.events.settled(this.places);
   }
@@ -210,27 +219,36 @@ export class ScrollView implements View {
     return range(first, last).map((place) => ({ place, picture: this.boxOf(place), window: this.boxOf(place) }));
   }
 
-  private showPages(): void {
+  /** Answers whether there are others than before. */
+  private showPages(): boolean {
     const [first, last] = this.seenPlaces();
-    if (this.shown === `${first} ${last}`) return;
+    if (this.shown === `${first} ${last}`) return false;
     this.shown = `${first} ${last}`;
     const near = range(Math.max(first - 1, 1), Math.min(last + 1, this.book.pages.length));
     for (const place of this.canvases.keys()) if (!near.includes(place)) this.drop(place);
     for (const place of near) this.add(place);
+    this.events.placed(this.placed());
+    return true;
+  }
+
+  private wantPictures(): void {
+    const [first, last] = this.seenPlaces();
     this.pictures.want(
       [...range(first, last), last + 1, first - 1],
       (place) => place >= first && place <= last,
       (place) => this.boxOf(place),
     );
-    this.events.placed(this.placed());
   }
 
+  /** An empty page first, because it gets its pixels only when there is something to paint. */
   private add(place: number): void {
     if (this.canvases.has(place)) return;
     const canvas = makeCanvas('side');
     this.canvases.set(place, canvas);
     this.sharp.element.before(canvas);
-    this.pictures.paint(canvas, place, this.boxOf(place));
+    canvas.style.backgroundColor = this.options.paper.colour;
+    if (this.pictures.pictures.get(place)) this.pictures.paint(canvas, place, this.boxOf(place));
+    else putCanvas(canvas, this.boxOf(place), 0);
   }
 
   private drop(place: number): void {

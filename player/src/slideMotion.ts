@@ -7,6 +7,13 @@ const TOLERANCE = 0.0004;
 /** How much of the way a finger takes the strip beyond its ends. */
 const GIVE = 0.3;
 
+/** A page in the slot beside the one that was jumped to. */
+interface StandIn {
+  readonly slot: number;
+  readonly place: number;
+  readonly jumpedTo: number;
+}
+
 /**
  * A strip of slides, one a slot, and how far it has moved: at 3 the third slot fills the stage, at
  * 3.5 half of the fourth is seen too. A slot holds the page of its number, but for a jump: then the
@@ -16,7 +23,7 @@ export class SlideMotion {
   private motion: Motion;
   private target: number; // a slot
   private held: number | undefined; // the slot that was nearest when it was taken hold of
-  private standIn: { readonly slot: number; readonly place: number } | undefined;
+  private standIn: StandIn | undefined;
 
   constructor(
     private readonly pageCount: number,
@@ -70,7 +77,7 @@ export class SlideMotion {
     const left = this.placeIn(clamp(Math.round(this.position), 1, this.pageCount));
     this.show(place);
     if (left === place) return;
-    this.standIn = { slot: place - step, place: left };
+    this.standIn = { slot: place - step, place: left, jumpedTo: place };
     this.motion = resting(place - step);
   }
 
@@ -89,7 +96,7 @@ export class SlideMotion {
   }
 
   drag(position: number): void {
-    const inside = clamp(position, 1, this.pageCount);
+    const inside = this.within(position);
     this.motion = resting(inside + (position - inside) * GIVE);
   }
 
@@ -97,7 +104,7 @@ export class SlideMotion {
   release(velocity: number, isStroke: boolean): void {
     const from = this.held ?? this.target;
     this.held = undefined;
-    this.target = clamp(landing(from, this.position, velocity, isStroke), 1, this.pageCount);
+    this.target = this.within(landing(from, this.position, velocity, isStroke));
     this.motion = { position: this.motion.position, velocity: { x: velocity, y: 0 } };
   }
 
@@ -106,9 +113,16 @@ export class SlideMotion {
     if (this.isHeld) return false;
     const target = { x: this.target, y: 0 };
     this.motion = springTo(this.motion, target, this.stiffness, seconds);
+    if (this.standIn && !this.slots.includes(this.standIn.slot)) this.standIn = undefined;
     if (!hasArrived(this.motion, target, TOLERANCE, this.stiffness)) return false;
     this.show(this.destination);
     return true;
+  }
+
+  /** While a stand-in is seen a finger reaches its slot and the one beside it, for beyond it lie other pages. */
+  private within(position: number): number {
+    const { slot, jumpedTo } = this.standIn ?? { slot: 1, jumpedTo: this.pageCount };
+    return clamp(position, Math.min(slot, jumpedTo), Math.max(slot, jumpedTo));
   }
 }
 
