@@ -4,19 +4,28 @@ import type { Ui } from './ui.ts';
 
 const REST_MILLISECONDS = 2500;
 
-/** A black screen over everything, until a key, a click or a page turn ends it. Answers how to switch it. */
-export function makeBlackScreen({ root, reader, say, announce }: Ui): () => void {
-  const screen = create('div', { className: 'black', hidden: true });
-  const show = (visible: boolean) => {
-    if (visible !== screen.hidden) return;
-    screen.hidden = !visible;
-    announce(visible ? say('blackScreen') : '');
-  };
-  screen.addEventListener('pointerdown', () => show(false));
-  reader.on('turned', () => show(false));
-  root.addEventListener('keydown', ({ key }) => key === 'Escape' && show(false));
-  root.append(screen);
-  return () => show(screen.hidden);
+/** A black screen over everything, until it is switched off, clicked or another page is shown. */
+export class BlackScreen {
+  private readonly element = create('div', { className: 'black', hidden: true });
+
+  constructor(private readonly ui: Ui) {
+    this.element.addEventListener('pointerdown', () => this.hide());
+    ui.reader.on('turned', () => this.hide());
+    ui.root.append(this.element);
+  }
+
+  toggle(): void {
+    if (this.hide()) return;
+    this.element.hidden = false;
+    this.ui.announce(this.ui.say('blackScreen'));
+  }
+
+  /** Answers whether it was there. */
+  hide(): boolean {
+    const wasThere = !this.element.hidden;
+    this.element.hidden = true;
+    return wasThere;
+  }
 }
 
 /** On the full screen the bars are there while the mouse moves; else only the page is seen. */

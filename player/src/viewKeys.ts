@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-import { makeBlackScreen } from './presenter.ts';
+import { BlackScreen } from './presenter.ts';
 import type { Ui } from './ui.ts';
 import type { ViewKind } from './view.ts';
 
@@ -32,7 +32,8 @@ function turnKeys({ reader }: Ui): Actions {
 function presenterKeys(ui: Ui): Actions {
   const keys = turnKeys(ui);
   const [on, back] = [keys.PageDown!, keys.PageUp!];
-  const black = makeBlackScreen(ui);
+  const black = new BlackScreen(ui);
+  const toggle = () => black.toggle();
   return {
     ...keys,
     ...numberKeys(ui),
@@ -41,8 +42,9 @@ function presenterKeys(ui: Ui): Actions {
     Space: on,
     'Shift Space': back,
     Backspace: back,
-    b: black,
-    '.': black,
+    b: toggle,
+    '.': toggle,
+    Escape: () => void (black.hide() || ui.panel.close()),
   };
 }
 

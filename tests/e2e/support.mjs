@@ -95,7 +95,7 @@ export async function openPages(page) {
   await page.waitForFunction(() => {
     const shown = [...document.querySelectorAll('.page')].map((each) => each.dataset.place);
     const drawn = [...document.querySelectorAll('.side:not([hidden])')].map((side) => side.dataset.drawn);
-    const isStill = document.querySelector('.air').hidden;
+    const isStill = document.querySelector('.air')?.hidden ?? !document.querySelector('.sheet.moving');
     return isStill && shown.length > 0 && shown.every((place) => drawn.includes(place));
   });
   return page.evaluate(() => [...document.querySelectorAll('.page')].map((each) => Number(each.dataset.place)));
@@ -107,7 +107,8 @@ export async function turnWith(page, press) {
   await press();
   await page.waitForFunction((old) => {
     const shown = [...document.querySelectorAll('.page')].map((each) => Number(each.dataset.place));
-    return document.querySelector('.air').hidden && shown.join() !== old;
+    const isStill = document.querySelector('.air')?.hidden ?? !document.querySelector('.sheet.moving');
+    return isStill && shown.join() !== old;
   }, before.join());
   return openPages(page);
 }
