@@ -130,7 +130,7 @@ export abstract class ZoomingHands<Kind extends Handled> implements GestureHandl
     const unit = wheelUnit(event);
     if (event.ctrlKey) zoomByWheel(this.view, event);
     else if (zoom.scale > 1) this.view.setZoom(panBy(zoom, { x: -event.deltaX * unit, y: -event.deltaY * unit }));
-    else this.turnByWheel((event.deltaY || event.deltaX) * unit, event.timeStamp);
+    else this.turnByWheel((event.deltaY || (options.rightToLeft ? -event.deltaX : event.deltaX)) * unit, event.timeStamp);
   }
 
   /** One page a push of the wheel, however long a touch pad lets it run on; what runs back is another push. */

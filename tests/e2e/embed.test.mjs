@@ -70,4 +70,18 @@ describe('a book in another page', () => {
     await page.evaluate(() => book.destroy());
     assert.equal(await page.locator('#catalogue > *').count(), 0);
   });
+
+  it('is shown in the view that is asked for', async () => {
+    await open('element.html');
+    for (const view of ['slide', 'scroll']) {
+      await page.evaluate((kind) => {
+        book.destroy();
+        const { mount } = leafcastBook;
+        const other = mount(document.getElementById('catalogue'), { readerData: 'YES' }, bookData, { place: 3, view: kind });
+        other.on('settled', (places) => told.push(`${kind} ${places}`));
+      }, view);
+      await told(`${view} 3`);
+      assert.equal(await page.locator('#catalogue').getAttribute('data-view'), view);
+    }
+  });
 });
