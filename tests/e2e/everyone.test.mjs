@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 import assert from 'node:assert/strict';
-import { readFileSync } from 'node:fs';
 import { after, afterEach, before, describe, it } from 'node:test';
 import { launchBrowser } from '../../tools/browser.mjs';
-import { colourAt, openBook, openPages, pathOf, publishMagazine, removeBook, turnWith } from './support.mjs';
+import { faults } from './axe.mjs';
+import { colourAt, openBook, openPages, publishMagazine, removeBook, turnWith } from './support.mjs';
 
-const AXE = readFileSync(pathOf('node_modules/axe-core/axe.min.js'), 'utf8');
 const PHONE = { width: 390, height: 844, hasTouch: true, isMobile: true };
 const SPREAD = { hash: '#page/4' };
 
@@ -40,13 +39,6 @@ const STATES = {
   'the print dialog': (page) => press(page, 'Print'),
   'the share dialog': (page) => press(page, 'Share'),
   'the list of keys': (page) => press(page, 'Keys'),
-};
-
-const faults = async (page) => {
-  await page.evaluate(AXE);
-  // Preloading would ask for the style sheet, which a page that is a file may not.
-  const { violations } = await page.evaluate(() => window.axe.run(document, { resultTypes: ['violations'], preload: false }));
-  return violations.map(({ id, nodes }) => `${id}: ${nodes.map(({ html }) => html).join(' ')}`);
 };
 
 /** What can be pressed and is, with the space around links that belongs to them, smaller than so many pixels either way. */

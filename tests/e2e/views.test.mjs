@@ -4,6 +4,7 @@ import { renameSync } from 'node:fs';
 import { join } from 'node:path';
 import { after, afterEach, before, describe, it } from 'node:test';
 import { launchBrowser } from '../../tools/browser.mjs';
+import { faults } from './axe.mjs';
 import { fingersOn } from './fingers.mjs';
 import {
   changedBook, destination, openBook, openPages, publishColours, publishMagazine, removeBook, scriptWith, turnWith,
@@ -53,6 +54,18 @@ async function loseAndFindPicture(book, place) {
   assert.equal(await page.locator('.missing').count(), 0);
 }
 
+/** Black, at rest, zoomed, with the list of keys and with the overview. */
+async function findNoFaults(book) {
+  const page = await open(book, { hash: '#page/4' });
+  for (const key of ['b', 'b', '+', '0', '?']) {
+    await page.keyboard.press(key);
+    assert.deepEqual(await faults(page), [], key);
+  }
+  await page.keyboard.press('Escape');
+  await page.getByRole('button', { name: 'Page overview' }).click();
+  assert.deepEqual(await faults(page), []);
+}
+
 before(async () => {
   browser = await launchBrowser();
 });
@@ -87,6 +100,8 @@ describe('slides', () => {
     await page.waitForFunction(() => location.hash === '#page/7');
     assert.deepEqual(page.troubles, []);
   });
+
+  it('have no fault that axe finds', () => findNoFaults(quick));
 
   it('hide behind a black screen until something is shown again', async () => {
     const page = await open(quick);
@@ -223,6 +238,8 @@ describe('pages below each other', () => {
     await settledAt(page, 16);
     assert.deepEqual(page.troubles, []);
   });
+
+  it('have no fault that axe finds', () => findNoFaults(report));
 
   it('are jumped to at once, and the back button undoes that', async () => {
     const page = await open(report, { hash: '#page/3' });
