@@ -8,7 +8,7 @@ import { type PictureRequest, Pictures } from './pictures.ts';
 /** The pictures of a book's pages, on canvases that show a whole page each. */
 export class BookPictures {
   readonly pictures: Pictures;
-  private readonly source: FaceSource;
+  readonly source: FaceSource;
 
   constructor(
     private readonly book: Book,

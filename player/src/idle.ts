@@ -7,5 +7,18 @@ export const whenIdle = (work: () => void): number => (canTell ? requestIdleCall
 
 export const cancelIdle = (handle: number): void => (canTell ? cancelIdleCallback(handle) : clearTimeout(handle));
 
+const FRAME_MILLISECONDS = 50;
+
+/** Before the next frame is drawn; where none is, as in a hidden tab, soon. */
+export function inNextFrame(work: () => void): void {
+  const once = () => {
+    cancelAnimationFrame(frame);
+    clearTimeout(timer);
+    work();
+  };
+  const frame = requestAnimationFrame(once);
+  const timer = window.setTimeout(once, FRAME_MILLISECONDS);
+}
+
 const canTell = 'requestIdleCallback' in globalThis;
 const laterOn = (work: () => void): number => window.setTimeout(work, A_MOMENT_MILLISECONDS);

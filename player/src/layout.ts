@@ -24,7 +24,10 @@ export function layoutBook(space: Size, margin: Size, shape: number, mode: Mode,
   const double = mode === 'double' || (mode === 'auto' && suitsSpread(inner, shape));
   const free = fit(double ? 2 * shape : shape, inner);
   // Whole pixels, so that a leaf in the air covers the one at rest exactly.
-  const leaf = { width: Math.floor(double ? free.width / 2 : free.width), height: Math.floor(free.height) };
+  const leaf = {
+    width: Math.max(Math.floor(double ? free.width / 2 : free.width), 1),
+    height: Math.max(Math.floor(free.height), 1),
+  };
   const width = double ? 2 * leaf.width : leaf.width;
   const x = Math.round((space.width - width) / 2);
   const y = Math.round((space.height - leaf.height) / 2);

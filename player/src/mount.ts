@@ -4,6 +4,7 @@ import { BookTexts } from './bookTexts.ts';
 import { create } from './dom.ts';
 import { makeDots } from './dots.ts';
 import { firstPlace, keepAddress } from './history.ts';
+import { inNextFrame } from './idle.ts';
 import { listenToKeys } from './keys.ts';
 import { colourBrowser, dress, followSize } from './look.ts';
 import { PageLayer } from './pageLayer.ts';
@@ -75,7 +76,12 @@ export function mountBook(
     options.ownsPage ? firstPlace(book, settings) : (options.place ?? 1),
     kind,
   );
-  furnish(root, reader, say, options, taken.signal);
+  // The first page is loaded meanwhile, and a caller can listen before anything is told.
+  inNextFrame(() => {
+    if (taken.signal.aborted) return;
+    furnish(root, reader, say, options, taken.signal);
+    reader.start();
+  });
   return { ...mounted, reader };
 }
 

@@ -49,6 +49,11 @@ export class Reader extends Emitter<ReaderEvents> {
     this.view = makeView(kind, stage, book, settings, events, this.within(place));
   }
 
+  /** Once everything listens that wants to know what is shown. */
+  start(): void {
+    this.view.start();
+  }
+
   /** What pages lie on; layers over them go into it, so that they are zoomed along. */
   get sheet(): HTMLElement {
     return this.view.sheet;

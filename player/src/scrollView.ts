@@ -7,6 +7,7 @@ import { create } from './dom.ts';
 import type { Paper } from './facePainter.ts';
 import { type Box, clamp } from './geometry.ts';
 import { SharpView } from './sharpView.ts';
+import { onOtherSize } from './stageSize.ts';
 import type { View, ViewEvents } from './view.ts';
 import { LEAST_SCALE, MOST_SCALE, type Zoom, zoomAbout } from './zoom.ts';
 
@@ -66,7 +67,14 @@ export class ScrollView implements View {
     host.tabIndex = 0; // so that keys scroll it
     host.addEventListener('scroll', () => this.scrolled(), { passive: true });
     this.arrange();
-    new ResizeObserver(() => this.arrange()).observe(host);
+  }
+
+  start(): void {
+    this.tell();
+    onOtherSize(this.host, () => {
+      this.arrange();
+      this.tell();
+    });
   }
 
   get place(): number {
@@ -145,6 +153,11 @@ export class ScrollView implements View {
     if (isFirst || this.aim) this.goTo(anchor.place);
     else this.host.scrollTop = heightOf(this.column, anchor) * this.scale;
     this.scrolled();
+  }
+
+  private tell(): void {
+    if (this.column.boxes.length === 0) return; // the stage has no size yet
+    this.events.placed(this.placed());
     this.events.settled(this.places);
   }
 

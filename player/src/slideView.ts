@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 import type { Book } from './book.ts';
 import { BookPictures } from './bookPictures.ts';
-import { makeCanvas, putCanvas } from './canvas.ts';
+import { makeCanvas } from './canvas.ts';
 import { create } from './dom.ts';
 import type { Paper } from './facePainter.ts';
+import { fadingPicture } from './fading.ts';
 import { type Box, clamp, fit, type Size } from './geometry.ts';
 import type { SlideEffect } from './settings.ts';
 import { SharpView } from './sharpView.ts';
 import { SlideMotion } from './slideMotion.ts';
 import { stiffnessOf } from './spring.ts';
+import { marginOf, onOtherSize, sizeOf } from './stageSize.ts';
 import { Ticker } from './ticker.ts';
 import type { View, ViewEvents } from './view.ts';
 import { keptInSight, NO_ZOOM, seenBox, type Zoom } from './zoom.ts';
@@ -52,7 +54,14 @@ export class SlideView implements View {
     this.sheet.append(this.sharp.element);
     host.append(this.sheet);
     this.arrange();
-    new ResizeObserver(() => this.arrange()).observe(host);
+  }
+
+  start(): void {
+    this.tell();
+    onOtherSize(this.host, () => {
+      this.arrange();
+      this.tell();
+    });
   }
 
   get place(): number {
@@ -136,15 +145,17 @@ export class SlideView implements View {
   }
 
   private arrange(): void {
-    const { clientWidth: width, clientHeight: height } = this.host;
-    if (!width || !height) return;
-    const { paddingLeft, paddingTop } = getComputedStyle(this.host);
-    this.space = { width, height };
-    this.margin = { width: parseFloat(paddingLeft), height: parseFloat(paddingTop) };
+    const space = sizeOf(this.host);
+    if (!space.width || !space.height) return;
+    this.space = space;
+    this.margin = marginOf(this.host);
     this.motion.show(this.place);
     for (const place of this.slides.keys()) this.drop(place);
     this.setZoom(NO_ZOOM);
     this.showSlides();
+  }
+
+  private tell(): void {
     this.tellPlaced();
     this.events.settled(this.places);
   }
@@ -178,7 +189,8 @@ export class SlideView implements View {
 
   private change(place: number): void {
     const before = this.slides.get(this.place);
-    if (before && this.options.slideEffect !== 'none') this.sheet.append(fadingCopy(before, this.boxOf(this.place)));
+    const box = this.boxOf(this.place);
+    if (before && this.options.slideEffect !== 'none') this.sheet.append(fadingPicture(box, [{ canvas: before, box }]));
     this.motion.show(place);
     this.showSlides();
   }
@@ -234,12 +246,4 @@ function centred(shape: number, space: Size, margin: Size): Box {
   const size = fit(shape, { width: Math.max(inside.width, 1), height: Math.max(inside.height, 1) });
   const [width, height] = [Math.max(Math.round(size.width), 1), Math.max(Math.round(size.height), 1)];
   return { x: Math.round((space.width - width) / 2), y: Math.round((space.height - height) / 2), width, height };
-}
-
-function fadingCopy(canvas: HTMLCanvasElement, box: Box): HTMLCanvasElement {
-  const copy = makeCanvas('fading');
-  putCanvas(copy, box, devicePixelRatio);
-  copy.getContext('2d')!.drawImage(canvas, 0, 0, copy.width, copy.height);
-  copy.addEventListener('animationend', () => copy.remove());
-  return copy;
 }

@@ -22,9 +22,15 @@ export interface ViewEvents {
   jumpAsked(place: number): void;
 }
 
-/** The pages on the stage. It tells of what happens to it by its `ViewEvents`. */
+/**
+ * The pages on the stage. A view draws itself and asks for pictures as soon as it is made, so that
+ * these are under way while the rest of the page is built; it tells of what happens to it by its
+ * `ViewEvents`.
+ */
 export interface View {
   readonly host: HTMLElement;
+  /** Tells what lies open, and follows the size of the stage from now on. To be called once. */
+  start(): void;
   /** What pages lie on; layers over them go into it. */
   readonly sheet: HTMLElement;
   /** Of the pages that lie open, or will when all has landed, in reading order. */
