@@ -46,7 +46,7 @@ export class BookView implements View {
   private readonly sharp: SharpView;
   private readonly edges: PageEdges;
   private plan!: BookPlan;
-  private turning!: Turning;
+  private turning!: Turning; // made with the first plan
   private mode: Mode;
   private reducedMotion = false;
   private hasTurned = false;
@@ -247,6 +247,8 @@ export class BookView implements View {
   private startTurning(spread: number): void {
     const leaf = { width: this.leafShape, height: 1 };
     this.told = spread;
+    // One that goes on would tell of spreads that there are not any more.
+    this.turning?.stop();
     this.turning = new Turning(this.plan.spreads.length, spread, leaf, stiffnessOf(this.options.turnSeconds), {
       frame: (quality) => this.paintLeaves(quality),
       changed: () => this.showGround(),

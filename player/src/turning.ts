@@ -103,6 +103,11 @@ export class Turning {
     this.wake();
   }
 
+  /** Leaves the leaves where they are, for good. */
+  stop(): void {
+    cancelAnimationFrame(this.request);
+  }
+
   /** Asks for a frame; needed from outside when what is drawn has changed and not where it lies. */
   wake(): void {
     if (this.request) return;
