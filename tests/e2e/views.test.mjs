@@ -20,6 +20,7 @@ let browser;
 const books = [];
 const kept = (book) => books[books.push(book) - 1];
 const press = (key) => (page) => page.keyboard.press(key);
+const count = (selector) => (page) => page.locator(selector).filter({ visible: true }).count();
 const elements = (page) => page.evaluate(() => document.querySelectorAll('*').length);
 const focusedName = (page) => page.evaluate(() => document.activeElement.getAttribute('aria-label'));
 
@@ -54,6 +55,18 @@ async function loseAndFindPicture(book, place) {
   assert.equal(await page.locator('.missing').count(), 0);
 }
 
+/** Key, value, what is looked at, what that is without the value, and with it. */
+async function findSettingsDo(book, table) {
+  for (const [key, value, look, without, with_] of table)
+    for (const [settings, expected] of [[{}, without], [{ [key]: value }, with_]]) {
+      const page = await open(settingsOf(book, settings));
+      assert.deepEqual(await look(page), expected, `${key} ${Object.values(settings)}`);
+      await page.context().close();
+    }
+}
+
+const settingsOf = (book, settings) => kept(changedBook(book, { files: { 'javascript/main.js': scriptWith(book, settings) } }));
+
 /** Black, at rest, zoomed, with the list of keys and with the overview. */
 async function findNoFaults(book) {
   const page = await open(book, { hash: '#page/4' });
@@ -85,7 +98,7 @@ describe('slides', () => {
     quick = kept(publishMagazine('--template', 'slide', '--set', 'turnDuration=150'));
   });
 
-  const changed = (settings) => kept(changedBook(quick, { files: { 'javascript/main.js': scriptWith(quick, settings) } }));
+  const changed = (settings) => settingsOf(quick, settings);
 
   it('change by the keys of presenters and clickers, and the back button undoes a jump', async () => {
     const page = await open(quick);
@@ -181,6 +194,33 @@ describe('slides', () => {
     assert.deepEqual(await turnWith(page, () => dot.click()), [11]);
     assert.deepEqual(await names(), [7, 8, 9, 10, 11, 12, 13, 14, 15]);
     assert.deepEqual(await turnWith(page, () => page.goBack()), [8]);
+  });
+
+  it('do what their settings say', () => {
+    const afterKey = (page) => page.keyboard.press('Space').then(() => destination(page));
+    const afterWheel = async (page) => {
+      await page.evaluate(() => { window.wheel = new Promise((resolve) => addEventListener('wheel', resolve, { once: true })); });
+      await page.mouse.move(640, 400);
+      await page.mouse.wheel(0, 240);
+      await page.evaluate(() => window.wheel);
+      return destination(page);
+    };
+    const movesLong = async (page) => {
+      await page.clock.install();
+      await page.keyboard.press('PageDown');
+      await page.clock.runFor(1200);
+      return page.locator('.sheet.moving').count();
+    };
+    return findSettingsDo(quick, [
+      ['keyboardControl', 'NO', afterKey, 'ii', 'Cover'],
+      ['wheelTurns', 'NO', afterWheel, 'ii', 'Cover'],
+      ['turnDuration', 4000, movesLong, 0, 1],
+      ['dotsVisible', 'NO', count('.dots button'), 9, 0],
+      ['sliderVisible', 'YES', count('.range'), 0, 1],
+      ['pageFieldVisible', 'NO', count('.page-field'), 1, 0],
+      ['turnButtonsVisible', 'NO', count('.turn'), 2, 0],
+      ['toolBarVisible', 'NO', count('.bar'), 1, 0],
+    ]);
   });
 
   it('play by themselves as a slide show', async () => {
@@ -300,6 +340,21 @@ describe('pages below each other', () => {
     await page.getByRole('button', { name: 'More tools' }).click();
     await page.getByRole('button', { name: 'Fit to window' }).click();
     assert.equal((await zoomOf(page)).scale, 1);
+  });
+
+  it('do what their settings say', async () => {
+    const widthOfPage = async (page) => Math.round((await page.locator('.page').first().boundingBox()).width);
+    const afterKey = async (page) => {
+      await page.keyboard.press('End');
+      return destination(page);
+    };
+    await findSettingsDo(report, [
+      ['readingWidth', 600, widthOfPage, 900, 600],
+      ['readingWidth', 0, widthOfPage, 900, 1280 - 2 * 16],
+      ['keyboardControl', 'NO', afterKey, 'Back', 'Cover'],
+      ['pageShadow', 'NO', count('.shadowed'), 1, 0],
+      ['toolBarVisible', 'NO', count('.bar'), 1, 0],
+    ]);
   });
 
   it('keep their place when the window changes', async () => {

@@ -94,7 +94,7 @@ const READING_WIDTH = [
 ];
 
 const GROUPS = [
-  ['bookGroup', 'Page', 'What the pages are and how they lie side by side.', PAGE],
+  ['bookGroup', 'Page', 'What the pages are and how they are shown.', PAGE],
   ['columnGroup', 'Column', 'How the pages lie below each other.', READING_WIDTH],
   ['slideGroup', 'Slides', 'How one page follows the other.', SLIDES],
   ['backgroundGroup', 'Background', 'What lies behind the pages.', BACKGROUND],

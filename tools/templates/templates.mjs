@@ -8,7 +8,10 @@ const TURNING_ONLY = [
   'rightToLeft', 'turnButtonsVisible', 'wheelTurns', 'turnDuration', 'autoTurnVisible', 'autoTurnSeconds', 'motionVisible',
 ];
 
+const OWN_SHAPE = { pageColor: { desc: 'Colour of the paper, seen until a page is loaded.' } };
+
 const SLIDES = {
+  ...OWN_SHAPE,
   sliderVisible: { value: 'NO' },
   turnDuration: {
     value: '500',
@@ -26,6 +29,7 @@ const SLIDES = {
 };
 
 const COLUMN = {
+  ...OWN_SHAPE,
   toolBarVisible: { desc: 'Shows the tool bar.' },
   toolBarColor: { desc: 'Colour of the tool bar and the panels.' },
   toolBarTextColor: { desc: 'Colour of text and symbols on the tool bar and the panels.' },
