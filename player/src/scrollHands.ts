@@ -4,15 +4,20 @@ import { type GestureHandler, Gestures } from './gestures.ts';
 import type { ScrollView } from './scrollView.ts';
 import { Pinch, toggleZoom, zoomByWheel } from './zoomingHands.ts';
 
-/** What hands do to pages that the browser scrolls: they zoom them. */
+/**
+ * What hands do to pages that the browser scrolls: they zoom them. A pinch is made of touch events,
+ * because the browser keeps the pointer events of a finger that it scrolls by to itself.
+ */
 export class ScrollHands implements GestureHandler {
-  private pinch: Pinch | undefined;
+  private pinch: { readonly on: Pinch; readonly spread: number } | undefined;
 
   constructor(private readonly view: ScrollView) {
-    new Gestures(view.host, this);
-    view.host.addEventListener('wheel', (event) => this.onWheel(event), { passive: false });
-    for (const name of ['touchstart', 'touchmove'] as const)
-      view.host.addEventListener(name, leaveOneFinger, { passive: false });
+    const { host } = view;
+    new Gestures(host, this);
+    host.addEventListener('wheel', (event) => this.onWheel(event), { passive: false });
+    host.addEventListener('touchstart', (event) => this.onTouch(event), { passive: false });
+    host.addEventListener('touchmove', (event) => this.onTouch(event), { passive: false });
+    for (const name of ['touchend', 'touchcancel'] as const) host.addEventListener(name, () => this.endPinch());
   }
 
   dragStart(): boolean {
@@ -23,21 +28,27 @@ export class ScrollHands implements GestureHandler {
   dragEnd(): void {}
   dragCancel(): void {}
   tap(): void {}
+  pinchStart(): void {}
+  pinchMove(): void {}
+  pinchEnd(): void {}
 
   doubleTap(at: Point): void {
     toggleZoom(this.view, at);
   }
 
-  pinchStart(middle: Point): void {
-    this.pinch = new Pinch(this.view, middle);
+  private onTouch(event: TouchEvent): void {
+    const [one, other] = event.touches;
+    if (!one || !other) return;
+    if (event.cancelable) event.preventDefault();
+    const { left, top } = this.view.host.getBoundingClientRect();
+    const middle = { x: (one.clientX + other.clientX) / 2 - left, y: (one.clientY + other.clientY) / 2 - top };
+    const spread = Math.max(Math.hypot(one.clientX - other.clientX, one.clientY - other.clientY), 1);
+    this.pinch ??= { on: new Pinch(this.view, middle), spread };
+    this.pinch.on.move(spread / this.pinch.spread, middle);
   }
 
-  pinchMove(factor: number, middle: Point): void {
-    this.pinch?.move(factor, middle);
-  }
-
-  pinchEnd(): void {
-    this.pinch?.end();
+  private endPinch(): void {
+    this.pinch?.on.end();
     this.pinch = undefined;
   }
 
@@ -46,9 +57,4 @@ export class ScrollHands implements GestureHandler {
     event.preventDefault();
     zoomByWheel(this.view, event);
   }
-}
-
-/** One finger scrolls; the browser would scroll with two as well, and take the pinch away. */
-function leaveOneFinger(event: TouchEvent): void {
-  if (event.touches.length > 1 && event.cancelable) event.preventDefault();
 }
