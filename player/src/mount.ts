@@ -11,6 +11,7 @@ import { PageLayer } from './pageLayer.ts';
 import { makePageField } from './pageField.ts';
 import { PageNames } from './pageNames.ts';
 import { hideBarsAtRest } from './presenter.ts';
+import { printOpenPages } from './paper.ts';
 import { Reader } from './reader.ts';
 import { readSettings, type Settings } from './settings.ts';
 import { SidePanel } from './sidePanel.ts';
@@ -138,7 +139,10 @@ function furnish(root: HTMLElement, reader: Reader, say: Say, { ownsPage }: Moun
   // What the focus can be on needs a name.
   if (reader.kind === 'scroll') nameStage(stage, say('pages'));
   if (settings.keyboard) listenToKeys(ui, ownsPage ? document : root, searchOpener(tools));
-  if (ownsPage) keepAddress(reader, signal);
+  if (ownsPage) {
+    keepAddress(reader, signal);
+    printOpenPages(ui);
+  }
 }
 
 function searchOpener(tools: readonly RankedTool[]): (() => void) | undefined {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 import { openDialog } from './dialog.ts';
 import { create } from './dom.ts';
+import { putOnPaper } from './paper.ts';
 import type { Ui } from './ui.ts';
 
 /** Asks which pages to print and prints their pictures, one a sheet. */
@@ -52,14 +53,11 @@ function chosen(which: string, text: string, { reader, names }: Ui): readonly nu
 /** Pages that cannot be loaded are left out. */
 async function printPages(urls: readonly string[], labels: readonly string[]): Promise<void> {
   const loaded = await Promise.all(urls.map((url, index) => pictureOf(url, labels[index]!)));
-  const container = create('div', { className: 'leafcast-print' }, ...loaded.flatMap((picture) => picture ?? []));
-  document.body.append(container);
-  document.documentElement.classList.add('leafcast-printing');
+  const takeAway = putOnPaper(loaded.flatMap((picture) => picture ?? []));
   const done = new Promise((resolve) => window.addEventListener('afterprint', resolve, { once: true }));
   window.print();
   await done;
-  container.remove();
-  document.documentElement.classList.remove('leafcast-printing');
+  takeAway();
 }
 
 function pictureOf(url: string, label: string): Promise<HTMLElement | undefined> {

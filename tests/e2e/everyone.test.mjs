@@ -239,4 +239,17 @@ describe('the book for everyone', () => {
     await page.evaluate(() => window.dispatchEvent(new Event('afterprint')));
     await page.waitForFunction(() => !document.querySelector('dialog, .leafcast-print'));
   });
+
+  it('prints the open pages, and them alone, by the command of the browser too', async () => {
+    const page = await open({ hash: '#page/4' });
+    await page.emulateMedia({ media: 'print' });
+    await page.evaluate(() => window.dispatchEvent(new Event('beforeprint')));
+    const sheets = page.locator('.leafcast-print > *');
+    assert.equal(await sheets.count(), 1);
+    const { width, height } = await sheets.boundingBox();
+    assert.ok(width / height > 1.4 && width <= 1280, 'both pages of the spread');
+    assert.ok(await page.locator('#book').isHidden());
+    await page.evaluate(() => window.dispatchEvent(new Event('afterprint')));
+    assert.ok(await page.locator('#book').isVisible());
+  });
 });
