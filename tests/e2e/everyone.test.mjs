@@ -193,15 +193,14 @@ describe('the book for everyone', () => {
   it('fades instead of curling where less motion is asked for', async () => {
     const page = await open({ ...SPREAD, reducedMotion: 'reduce' });
     await page.evaluate(() => {
-      window.flown = 0;
-      const air = document.querySelector('.air');
-      new MutationObserver(() => (window.flown += air.hidden ? 0 : 1)).observe(air, { attributes: true });
+      window.seen = { flown: 0, faded: 0 };
+      const [sheet, air] = [document.querySelector('.sheet'), document.querySelector('.air')];
+      new MutationObserver(() => (window.seen.flown += air.hidden ? 0 : 1)).observe(air, { attributes: true });
+      new MutationObserver(() => (window.seen.faded += sheet.querySelectorAll('.fading').length)).observe(sheet, { childList: true });
     });
-    const fades = page.waitForSelector('.fading', { state: 'attached' });
     assert.deepEqual(await turnWith(page, () => page.keyboard.press('ArrowRight')), [6, 7]);
-    await fades;
-    await page.waitForSelector('.fading', { state: 'detached' });
-    assert.equal(await page.evaluate(() => window.flown), 0);
+    await page.waitForFunction(() => window.seen.faded > 0 && !document.querySelector('.fading'));
+    assert.equal(await page.evaluate(() => window.seen.flown), 0);
     assert.equal(await page.locator('.tool[title="Less motion"]').getAttribute('aria-pressed'), 'true');
   });
 
