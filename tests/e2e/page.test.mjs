@@ -13,6 +13,11 @@ const TITLE = 'Hornbeam No. 7: Trees, leaves and things made by hand';
 const KEYWORDS = 'Leafcast,page flip,flipping-book';
 const ESCAPED = '&quot;A&quot; &lt;b&gt; &amp; it&#39;s';
 
+const PAGES = {
+  ...Object.fromEntries(TEMPLATES.map(({ name }) => [name, `resources/AppFiles/Templates/${name}/index.html`])),
+  bulletin: 'docs/example-template/Templates/bulletin/index.html',
+};
+
 const validator = new HtmlValidate(new StaticConfigLoader({ root: true, extends: ['html-validate:standard'] }));
 
 async function faultsOf(html) {
@@ -47,8 +52,8 @@ describe('the page of a book', () => {
     assert.notDeepEqual(await faultsOf('<!DOCTYPE html><title>x</title><p><p foo="'), [], 'the validator finds faults');
   });
 
-  for (const { name } of TEMPLATES) {
-    const template = readFileSync(pathOf(`resources/AppFiles/Templates/${name}/index.html`), 'latin1');
+  for (const [name, file] of Object.entries(PAGES)) {
+    const template = readFileSync(pathOf(file), 'latin1');
 
     it(`stays valid in the template ${name} with empty values and escaped ones`, async () => {
       assert.deepEqual(await faultsOf(filled(template, 'T', '', '')), []);
