@@ -39,7 +39,7 @@ export interface OutlineItem {
 
 export interface BookData {
   readonly version: number;
-  readonly textPages: number;
+  readonly textStarts: readonly number[];
   readonly pages: readonly Page[];
   readonly outline: readonly OutlineItem[];
 }
@@ -47,7 +47,7 @@ export interface BookData {
 export interface Book {
   readonly pages: readonly Page[]; // a page's place is its position here, from 1
   readonly outline: readonly OutlineItem[];
-  readonly textPages: number; // how many pages' texts lie in one file (bookTexts.ts); 0 without text
+  readonly textStarts: readonly number[]; // the first place of each text file (bookTexts.ts)
   readonly shape: number; // width over height of a leaf
 }
 
@@ -56,8 +56,8 @@ const WIDE_PAGE = 1.3;
 
 export function readBook(config: BookConfig, data: BookData | undefined): Book {
   const known = isOn(config.readerData) && data?.version === 2;
-  const { pages, outline, textPages } = known ? data : { pages: plainPages(config), outline: [], textPages: 0 };
-  return { pages, outline, textPages, shape: leafShape(pages, config) };
+  const { pages, outline, textStarts } = known ? data : { pages: plainPages(config), outline: [], textStarts: [] };
+  return { pages, outline, textStarts, shape: leafShape(pages, config) };
 }
 
 export const isOn = (value: unknown): boolean => /^(yes|true|show|enable|1)$/i.test(String(value));

@@ -7,7 +7,7 @@ export interface PageText {
   readonly lines: readonly TextLine[]; // in reading order
 }
 
-const MOST_FILES = 6;
+const MOST_FILES = 8;
 const FILES_AHEAD = 3;
 
 /**
@@ -19,37 +19,48 @@ export class BookTexts {
   private readonly files = new Map<number, Promise<PageTexts>>(); // in order of use, the last one last
 
   constructor(
-    private readonly book: Pick<Book, 'pages' | 'textPages'>,
+    private readonly book: Pick<Book, 'pages' | 'textStarts'>,
     private readonly folder = 'files/search/',
     private readonly load = loadTextFile,
   ) {}
 
   /** Whether any page has text; else there is nothing to search, read out or show. */
   get hasText(): boolean {
-    return this.book.textPages > 0;
+    return this.book.textStarts.length > 0;
   }
 
   async linesOf(place: number): Promise<readonly TextLine[]> {
     if (!this.hasText) return [];
-    const { textPages } = this.book;
-    const pages = await this.file(Math.ceil(place / textPages));
-    return pages[(place - 1) % textPages] ?? [];
+    const file = this.fileOf(place);
+    const pages = await this.file(file);
+    return pages[place - this.book.textStarts[file - 1]!] ?? [];
   }
 
   /** Page by page in book order, without ever holding all of it; stop by leaving the loop. */
   async *all(): AsyncGenerator<PageText, void, undefined> {
-    const { pages, textPages } = this.book;
+    const { pages, textStarts } = this.book;
     for (let place = 1; this.hasText && place <= pages.length; place++) {
-      if (place % textPages === 1 || textPages === 1) this.fetchAhead(place);
+      const file = this.fileOf(place);
+      if (textStarts[file - 1] === place) this.fetchAhead(file);
       yield { place, lines: await this.linesOf(place) };
     }
   }
 
-  private fetchAhead(place: number): void {
-    const { pages, textPages } = this.book;
-    const last = Math.ceil(pages.length / textPages);
-    const file = Math.ceil(place / textPages);
-    for (let ahead = file; ahead <= Math.min(file + FILES_AHEAD, last); ahead++) void this.file(ahead);
+  /** The number of the file that holds a page's text, from 1. */
+  private fileOf(place: number): number {
+    const { textStarts } = this.book;
+    let [low, high] = [1, textStarts.length];
+    while (low < high) {
+      const middle = Math.ceil((low + high) / 2);
+      if (textStarts[middle - 1]! <= place) low = middle;
+      else high = middle - 1;
+    }
+    return low;
+  }
+
+  private fetchAhead(file: number): void {
+    const last = Math.min(file + FILES_AHEAD, this.book.textStarts.length);
+    for (let ahead = file; ahead <= last; ahead++) void this.file(ahead);
   }
 
   private file(number: number): Promise<PageTexts> {

@@ -59,9 +59,11 @@ QByteArray outline(const std::vector<ReaderOutlineItem>& items)
     return JSONText::array(items, outlineItemText);
 }
 
-QByteArray bookFile(int textPages, const QByteArrayList& pages, const QByteArray& outline)
+QByteArray bookFile(
+    const std::vector<int>& textStarts, const QByteArrayList& pages, const QByteArray& outline)
 {
-    return "var bookData = {\"version\":2,\"textPages\":" + QByteArray::number(textPages)
+    const auto number = [](int place) { return QByteArray::number(place); };
+    return "var bookData = {\"version\":2,\"textStarts\":" + JSONText::array(textStarts, number)
         + ",\"pages\":[" + pages.join(',') + "],\"outline\":" + outline + "};\n";
 }
 

@@ -15,8 +15,9 @@ QByteArray page(const ReaderPage& page);
 QByteArray text(const std::vector<PDFTextLine>& lines);
 QByteArray outline(const std::vector<ReaderOutlineItem>& items);
 
-/// The file "book.js". textPages: how many pages' texts lie in one file; 0 when there is no text.
-QByteArray bookFile(int textPages, const QByteArrayList& pages, const QByteArray& outline);
+/// The file "book.js". textStarts: the first place of each text file; none when there is no text.
+QByteArray bookFile(
+    const std::vector<int>& textStarts, const QByteArrayList& pages, const QByteArray& outline);
 /// The file "text-NUMBER.js", numbered from 1.
 QByteArray textFile(int number, const QByteArrayList& texts);
 

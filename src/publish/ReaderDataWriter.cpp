@@ -10,31 +10,33 @@ namespace leafcast {
 
 void ReaderDataWriter::addPage(const ReaderPage& page)
 {
-    iPages.append(ReaderDataScript::page(page));
-    iTexts.append(ReaderDataScript::text(page.lines));
-    iHasText = iHasText || !page.lines.empty();
+    const QByteArray text = ReaderDataScript::text(page.lines);
     // Before the first text nothing tells whether the book has such files at all.
-    while (iHasText && iTexts.size() >= pagesInTextFile)
+    if (iHasText && !iTexts.isEmpty() && iTextBytes + text.size() > mostTextBytes)
         writeTexts();
+    iPages.append(ReaderDataScript::page(page));
+    iTexts.append(text);
+    iTextBytes += text.size();
+    iHasText = iHasText || !page.lines.empty();
 }
 
 bool ReaderDataWriter::finish(const std::vector<ReaderOutlineItem>& outline)
 {
     if (iHasText && !iTexts.isEmpty())
         writeTexts();
-    const int textPages = iHasText ? pagesInTextFile : 0;
     write(bookFileName,
-        ReaderDataScript::bookFile(textPages, iPages, ReaderDataScript::outline(outline)));
+        ReaderDataScript::bookFile(iTextStarts, iPages, ReaderDataScript::outline(outline)));
     return iIsWhole;
 }
 
 void ReaderDataWriter::writeTexts()
 {
-    const auto number = static_cast<int>(iTextFiles.size()) + 1;
+    iTextStarts.push_back(static_cast<int>(iPages.size() - iTexts.size()) + 1);
+    const auto number = static_cast<int>(iTextStarts.size());
     iTextFiles.append(u"text-%1.js"_s.arg(number));
-    const QByteArrayList texts = iTexts.mid(0, pagesInTextFile);
-    iTexts.remove(0, texts.size());
-    write(iTextFiles.last(), ReaderDataScript::textFile(number, texts));
+    write(iTextFiles.last(), ReaderDataScript::textFile(number, iTexts));
+    iTexts.clear();
+    iTextBytes = 0;
 }
 
 void ReaderDataWriter::write(const QString& name, const QByteArray& bytes)

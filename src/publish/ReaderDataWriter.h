@@ -8,12 +8,14 @@
 
 namespace leafcast {
 
-/// Writes the files of reader data into a folder: the texts of so many pages at a time, so that a
+/// Writes the files of reader data into a folder: the texts of a few pages at a time, so that a
 /// long book's text is never in memory as a whole, and "book.js" at the end. A book without text
 /// has no text files. Each file appears whole or not at all; failures are logged.
 class ReaderDataWriter {
 public:
-    static constexpr int pagesInTextFile = 20;
+    /// Of a text file, unless one page alone has more: readers load the text of what they see, and
+    /// a page's own picture is seldom smaller.
+    static constexpr qsizetype mostTextBytes = 48 * 1024;
     static constexpr QLatin1StringView bookFileName{ "book.js" };
 
     /// The folder exists.
@@ -37,6 +39,8 @@ private:
     QString iFolder;
     QByteArrayList iPages;
     QByteArrayList iTexts; // of the pages whose text is not written yet
+    qsizetype iTextBytes = 0; // of all of these
+    std::vector<int> iTextStarts; // the first place of each text file
     QStringList iTextFiles;
     bool iHasText = false;
     bool iIsWhole = true;

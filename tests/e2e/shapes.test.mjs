@@ -92,7 +92,7 @@ describe('a book of other shapes', () => {
       const pages = Array.from({ length: 1000 }, (_, index) => (
         { number: index + 1, label: String(index + 1), image: `files/page/${1 + (index % FILES)}.jpg`, ...PORTRAIT, links: [] }));
       const outline = Array.from({ length: 200 }, (_, index) => ({ title: `Chapter ${index + 1}`, page: 5 * index + 1, place: 5 * index + 1, items: [] }));
-      const data = { version: 2, textPages: 0, pages, outline };
+      const data = { version: 2, textStarts: [], pages, outline };
       book = kept(changedBook(small, { files: { 'files/search/book.js': `var bookData = ${JSON.stringify(data)};\n` } }));
     });
 

@@ -28,7 +28,7 @@ const focusedName = (page) => page.evaluate(() => document.activeElement.getAttr
 function thousandsOf(book) {
   const pages = Array.from({ length: COUNT }, (_, index) => (
     { number: index + 1, label: String(index + 1), image: `files/page/${1 + (index % COLOURS.length)}.jpg`, width: 1333, height: 750, links: [] }));
-  const data = JSON.stringify({ version: 2, textPages: 0, pages, outline: [] });
+  const data = JSON.stringify({ version: 2, textStarts: [], pages, outline: [] });
   return kept(changedBook(book, { files: { 'files/search/book.js': `var bookData = ${data};\n` } }));
 }
 

@@ -21,7 +21,7 @@ TEST_F(ReaderDataFilesTest, ListThePagesOfABookOfImagesWhileItsSwitchIsOn)
     addPage(1, picture({ 30, 40 }));
     addPage(2, "no picture", u".png"_s);
     EXPECT_EQ(writtenFor(TemporaryResources::group("g", readerData)),
-        R"(var bookData = {"version":2,"textPages":0,"pages":[{"number":1,"label":"1","image":"files/page/1.jpg",)"
+        R"(var bookData = {"version":2,"textStarts":[],"pages":[{"number":1,"label":"1","image":"files/page/1.jpg",)"
         R"("width":30,"height":40,"links":[]},{"number":2,"label":"2",)"
         R"("image":"files/page/2.png","width":0,"height":0,"links":[]}],"outline":[]};)"
         "\n");

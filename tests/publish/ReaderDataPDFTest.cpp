@@ -87,27 +87,32 @@ TEST_F(ReaderDataPDFTest, HasAreasAsDisplayedForEveryRotationAndCropBox)
     EXPECT_NEAR(line[u"boxes"][0][0].toDouble(), 0.1, 0.01);
 }
 
-TEST_F(ReaderDataPDFTest, HasTheTextsOfTwentyPagesInAFileWhileAnyPageHasText)
+TEST_F(ReaderDataPDFTest, HasTextFilesOfLikeSizeWhileAnyPageHasText)
 {
+    QByteArray dense;
+    for (int line = 0; line < 60; ++line)
+        dense += PDFBuilder::showText("Leaf after leaf after leaf after leaf", 20, 780 - 12 * line);
     PDFBuilder pdf;
-    for (int page = 0; page < 41; ++page)
-        pdf.addPage({ .content = PDFBuilder::showText(page == 40 ? "Leaf" : "", 120, 100) });
+    for (const QByteArray& content : { QByteArray(), dense, dense, QByteArray(), dense, dense,
+             dense, QByteArray(), QByteArray() })
+        pdf.addPage({ .content = content });
     import(pdf, u"ALL"_s);
-    EXPECT_EQ(bookData()[u"textPages"], 20);
-    EXPECT_EQ(texts(1), QJsonArray::fromVariantList(QVariantList(20, QVariantList())));
-    EXPECT_EQ(texts(2), texts(1));
-    EXPECT_EQ(texts(3)[0][0][u"text"], u"Leaf"_s);
+    // A dense page has some 15 KB.
+    EXPECT_EQ(bookData()[u"textStarts"], QJsonArray({ 1, 6 }));
+    EXPECT_EQ(texts(1).size(), 5);
+    EXPECT_EQ(texts(1)[0], QJsonArray());
+    EXPECT_EQ(texts(1)[1].toArray().size(), 60);
+    EXPECT_EQ(texts(2).size(), 4);
 
     resources.addFile(u"book/files/search/text-0.js"_s, "another's");
-    import(pdf, u"21-41"_s);
-    EXPECT_EQ(bookData()[u"textPages"], 20);
-    EXPECT_EQ(searchFiles(),
-        QStringList({ u"book.js"_s, u"text-0.js"_s, u"text-1.js"_s, u"text-2.js"_s }));
+    import(pdf, u"4-9"_s);
+    EXPECT_EQ(bookData()[u"textStarts"], QJsonArray({ 1 }));
+    EXPECT_EQ(searchFiles(), QStringList({ u"book.js"_s, u"text-0.js"_s, u"text-1.js"_s }));
     const BookContent content(FlashBookOutput(source, flashTemplate, inBook(), QString()));
-    EXPECT_TRUE(content.contains(u"files/search/text-2.js"_s));
+    EXPECT_TRUE(content.contains(u"files/search/text-1.js"_s));
     EXPECT_FALSE(content.contains(u"files/search/text-0.js"_s));
-    import(pdf, u"1-40"_s);
-    EXPECT_EQ(bookData()[u"textPages"], 0);
+    import(pdf, u"8-9"_s);
+    EXPECT_EQ(bookData()[u"textStarts"], QJsonArray());
     EXPECT_EQ(searchFiles(), QStringList({ u"book.js"_s, u"text-0.js"_s }));
 }
 

@@ -30,7 +30,7 @@ TEST(ReaderDataScript, HoldsWhatThePlayerReads)
         { { u"Chapter <1>"_s, 5, 1,
               { { u"Section"_s, 7, 3, {} }, { u"Not in the book"_s, 40, 0, {} } } },
             { u"No target"_s, 0, 0, {} } });
-    EXPECT_EQ(ReaderDataScript::bookFile(20, entries, outline),
+    EXPECT_EQ(ReaderDataScript::bookFile({ 1 }, entries, outline),
         readTestFile(QStringLiteral(LEAFCAST_FIXTURES "/reader-data/book.js")));
     EXPECT_EQ(ReaderDataScript::textFile(1, texts),
         readTestFile(QStringLiteral(LEAFCAST_FIXTURES "/reader-data/text-1.js")));
