@@ -118,7 +118,8 @@ describe('the book in hands', () => {
       await page.mouse.up();
     };
     await page.keyboard.press('ArrowRight');
-    await waitForDestination(page, '6–7');
+    await inAir(page);
+    assert.equal(await destination(page), '6–7');
     await stroke(at(0.6, 0.5), at(0.95, 0.5));
     await waitForDestination(page, '4–5');
     await stroke(at(0.95, 0.5), at(0.1, 0.5));
@@ -127,6 +128,27 @@ describe('the book in hands', () => {
     await page.keyboard.press('ArrowLeft');
     await waitForDestination(page, '4–5');
     assert.deepEqual(page.troubles, []);
+  });
+
+  it('lands a turn at once when the window changes its shape meanwhile', async () => {
+    const { page } = await open(slow);
+    await page.keyboard.press('ArrowRight');
+    await inAir(page);
+    await page.setViewportSize({ width: 390, height: 844 });
+    await page.waitForFunction(() => document.querySelectorAll('.page').length === 1);
+    assert.deepEqual(await openPages(page), [6]);
+    await page.keyboard.press('ArrowLeft');
+    await waitForDestination(page, '5');
+  });
+
+  it('shows the pages that come sharp when a zoomed book is turned', async () => {
+    const { page } = await open(quick);
+    await page.keyboard.press('+');
+    await page.locator('.sharp canvas').first().waitFor({ state: 'attached' });
+    await page.locator('.sharp canvas').evaluateAll((crops) => crops.forEach((crop) => crop.classList.add('old')));
+    assert.deepEqual(await turnWith(page, () => page.keyboard.press('ArrowRight')), [6, 7]);
+    await page.waitForFunction(() => document.querySelectorAll('.sharp canvas').length === 2);
+    assert.equal(await page.locator('.sharp .old').count(), 0);
   });
 
   describe('fingers', () => {
