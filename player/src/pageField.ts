@@ -9,7 +9,9 @@ export function makePageField({ reader, say, names, announce }: Ui): HTMLElement
   field.enterKeyHint = 'go';
   const total = create('span', { className: 'total', 'aria-hidden': 'true' });
   const form = create('form', { className: 'page-field', noValidate: true }, field, total);
+  let isTyped = false;
   const show = () => {
+    if (isTyped) return; // not under the fingers of who types while the pages still move
     field.value = names.labels(reader.places);
     field.style.width = `${Math.max(field.value.length, String(reader.pageCount).length) + 3}ch`;
     total.textContent = names.total(reader.places);
@@ -18,13 +20,20 @@ export function makePageField({ reader, say, names, announce }: Ui): HTMLElement
   form.addEventListener('submit', (event) => {
     event.preventDefault();
     const place = names.find(field.value);
+    isTyped = !place;
     if (place) reader.goTo(place);
     else refuse(field, say('noSuchPage', field.value), announce);
     if (place && reader.places.includes(place)) show();
   });
   field.addEventListener('focus', () => field.select());
-  field.addEventListener('blur', show);
-  field.addEventListener('input', () => field.removeAttribute('aria-invalid'));
+  field.addEventListener('blur', () => {
+    isTyped = false;
+    show();
+  });
+  field.addEventListener('input', () => {
+    isTyped = true;
+    field.removeAttribute('aria-invalid');
+  });
   reader.on('turned', show);
   reader.on('settled', show);
   return form;
