@@ -2,7 +2,7 @@
 # The front door. Each target sets up what it needs first; a second run finds it there.
 SHELL := /bin/bash
 .DEFAULT_GOAL := help
-.PHONY: help demo test asan bench bench-player samples shots lint format install clean
+.PHONY: help demo test asan bench bench-player samples shots golden lint format install clean
 
 DEMO_BOOK := build/demo-book
 PREFIX ?= /usr/local
@@ -53,6 +53,10 @@ shots: ## Take the pictures of the styles from a real book
 	@tools/setup samples
 	@tools/build release
 	@LEAFCAST="$(CURDIR)/build/release/bin/leafcast" node tools/make-shots.mjs
+
+golden: ## Draw the golden pictures of the turning leaf anew; look at them before a commit
+	@tools/setup test
+	@GOLDEN=renew node --test tests/e2e/curl.test.mjs
 
 lint: ## Check formatting, includes and clang-tidy on changed files
 	@tools/setup lint
