@@ -13,6 +13,8 @@ export class BookPictures {
   constructor(
     private readonly book: Book,
     private readonly paper: Paper,
+    /** A small picture of a page, if there is one, for as long as its own is on its way. */
+    standIn: (place: number) => CanvasImageSource | undefined,
     /** A page's picture came, or could not be loaded. */
     changed: (place: number) => void,
   ) {
@@ -23,7 +25,7 @@ export class BookPictures {
       changed,
     );
     this.source = {
-      picture: (place) => this.pictures.get(place),
+      picture: (place) => this.pictures.get(place) ?? standIn(place),
       shape: (place) => this.shapeOf(place),
       label: (place) => page(place)?.label ?? '',
     };

@@ -25,6 +25,7 @@ export interface ViewOptions {
   readonly rightToLeft: boolean;
   readonly turnSeconds: number;
   readonly paper: Paper;
+  readonly standIn: (place: number) => CanvasImageSource | undefined;
   readonly hardCovers: boolean;
   readonly pageEdges: boolean;
   readonly wheelTurns: boolean;
@@ -61,7 +62,7 @@ export class BookView implements View {
     place: number,
   ) {
     this.mode = options.mode;
-    this.pictures = new BookPictures(book, options.paper, (at) => this.pictured(at));
+    this.pictures = new BookPictures(book, options.paper, options.standIn, (at) => this.pictured(at));
     this.leaves = new FlyingLeaves(this.pictures.source, options.paper, options.rightToLeft);
     this.sharp = new SharpView(this.pictures.pictures);
     this.edges = new PageEdges((fraction) => events.jumpAsked(Math.ceil(fraction * book.pages.length)));

@@ -17,7 +17,6 @@ import { readSettings, type Settings } from './settings.ts';
 import { SidePanel } from './sidePanel.ts';
 import { makeSlider } from './slider.ts';
 import { chooseLanguage, sayIn, type Say } from './texts.ts';
-import { Thumbnails } from './thumbnails.ts';
 import { makeToolbar, type RankedTool } from './toolbar.ts';
 import { makeTools } from './tools.ts';
 import { makeTurnButtons } from './turnButtons.ts';
@@ -117,7 +116,7 @@ function furnish(root: HTMLElement, reader: Reader, say: Say, { ownsPage }: Moun
     names,
     texts,
     layer: new PageLayer(reader, texts, names, say),
-    thumbnails: new Thumbnails(book.pages),
+    thumbnails: reader.thumbnails,
     panel: new SidePanel(root, say),
     sound: new TurnSound(reader, signal),
     announce: (text) => (status.textContent = text),

@@ -4,6 +4,7 @@ import { Emitter } from './emitter.ts';
 import type { Mode } from './layout.ts';
 import type { Settings } from './settings.ts';
 import type { PlacedPage } from './sharpView.ts';
+import { Thumbnails } from './thumbnails.ts';
 import type { View, ViewKind } from './view.ts';
 import { makeView } from './views.ts';
 import type { Zoom } from './zoom.ts';
@@ -28,6 +29,8 @@ export interface ReaderEvents {
  * want to know. Pages are named by their place, from 1.
  */
 export class Reader extends Emitter<ReaderEvents> {
+  /** They also stand in for pages that are on their way. */
+  readonly thumbnails: Thumbnails;
   private readonly view: View;
 
   constructor(
@@ -38,6 +41,8 @@ export class Reader extends Emitter<ReaderEvents> {
     readonly kind: ViewKind = 'book',
   ) {
     super();
+    this.thumbnails = new Thumbnails(book.pages);
+    const standIn = (at: number) => this.thumbnails.get(at);
     const events = {
       turned: (places: readonly number[]) => this.emit('turned', places),
       settled: (places: readonly number[]) => this.emit('settled', places),
@@ -46,7 +51,7 @@ export class Reader extends Emitter<ReaderEvents> {
       pictured: (place: number) => this.emit('pictured', place),
       jumpAsked: (to: number) => this.goTo(to),
     };
-    this.view = makeView(kind, stage, book, settings, events, this.within(place));
+    this.view = makeView(kind, stage, book, settings, standIn, events, this.within(place));
   }
 
   /** Once everything listens that wants to know what is shown. */

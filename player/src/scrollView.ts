@@ -14,6 +14,7 @@ import { LEAST_SCALE, MOST_SCALE, type Zoom, zoomAbout } from './zoom.ts';
 export interface ScrollOptions {
   readonly readingWidth: number;
   readonly paper: Paper;
+  readonly standIn: (place: number) => CanvasImageSource | undefined;
 }
 
 const REST_MILLISECONDS = 120;
@@ -60,7 +61,7 @@ export class ScrollView implements View {
     place: number,
   ) {
     this.told = place;
-    this.pictures = new BookPictures(book, options.paper, (at) => this.pictured(at));
+    this.pictures = new BookPictures(book, options.paper, options.standIn, (at) => this.pictured(at));
     this.sharp = new SharpView(this.pictures.pictures);
     this.sheet.append(this.sharp.element);
     host.append(this.spacer, this.sheet);

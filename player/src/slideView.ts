@@ -21,6 +21,7 @@ export interface SlideOptions {
   readonly slideEffect: SlideEffect;
   readonly wheelTurns: boolean;
   readonly paper: Paper;
+  readonly standIn: (place: number) => CanvasImageSource | undefined;
 }
 
 const NOTHING: Size = { width: 0, height: 0 };
@@ -48,7 +49,7 @@ export class SlideView implements View {
     private readonly events: ViewEvents,
     place: number,
   ) {
-    this.pictures = new BookPictures(book, options.paper, (at) => this.pictured(at));
+    this.pictures = new BookPictures(book, options.paper, options.standIn, (at) => this.pictured(at));
     this.sharp = new SharpView(this.pictures.pictures);
     this.motion = new SlideMotion(book.pages.length, place, stiffnessOf(options.turnSeconds));
     this.sheet.append(this.sharp.element);

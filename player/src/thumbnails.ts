@@ -28,6 +28,11 @@ export class Thumbnails {
     void this.loadNext();
   }
 
+  /** What there is of a page already. */
+  get(place: number): ImageBitmap | undefined {
+    return this.held.get(place);
+  }
+
   private async loadNext(): Promise<void> {
     if (this.running >= AT_ONCE) return;
     const next = this.waiting.pop();

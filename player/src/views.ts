@@ -17,10 +17,11 @@ export function makeView(
   stage: HTMLElement,
   book: Book,
   settings: Settings,
+  standIn: (place: number) => CanvasImageSource | undefined,
   events: ViewEvents,
   place: number,
 ): View {
-  const options = { ...settings, paper: { colour: settings.paperColour, ink: PAPER_INK } };
+  const options = { ...settings, paper: { colour: settings.paperColour, ink: PAPER_INK }, standIn };
   if (kind === 'slide') {
     const view = new SlideView(stage, book, options, events, place);
     new SlideHands(view);

@@ -21,8 +21,43 @@ describe('a book on the preview server', () => {
   });
 
   it('shows the number of a page whose picture is late, never another page', async () => {
+    const page = await open();
+    const release = await jumpToLatePage(page);
+    assert.equal(await page.locator('.missing').count(), 0);
+    const { x, y } = await page.locator('.page[data-place="12"]').boundingBox();
+    assert.deepEqual(await colourAt(page, x + 20, y + 20), [255, 255, 255]);
+    release();
+    assert.deepEqual(await openPages(page), [12, 13]);
+    assert.deepEqual(page.troubles, []);
+  });
+
+  it('shows the small picture of a page that is late, when there is one', async () => {
+    const page = await open();
+    await page.getByRole('button', { name: 'Page overview' }).click();
+    const isDrawn = (canvas) => canvas.getContext('2d').getImageData(104, 104, 1, 1).data[3] > 0;
+    const small = page.getByRole('button', { name: 'Page 12', exact: true }).locator('canvas');
+    await page.keyboard.press('End');
+    await page.waitForFunction(isDrawn, await small.elementHandle());
+    await page.keyboard.press('Escape');
+    const release = await jumpToLatePage(page);
+    const { x, y, width, height } = await page.locator('.page[data-place="12"]').boundingBox();
+    const look = () => colourAt(page, x + width / 2, y + height / 2);
+    const before = await look();
+    release();
+    await openPages(page);
+    const after = await look();
+    assert.notDeepEqual(before, [255, 255, 255]);
+    before.forEach((channel, at) => assert.ok(Math.abs(channel - after[at]) < 30, `${before}, ${after}`));
+  });
+
+  async function open() {
     const page = await openBookAt(browser, server.addresses.find((address) => address.includes('127.0.0.1')));
     await openPages(page);
+    return page;
+  }
+
+  /** Answers how to let the picture come. */
+  async function jumpToLatePage(page) {
     let release;
     const late = new Promise((resolve) => (release = resolve));
     await page.route('**/files/page/12.jpg', (route) => late.then(() => route.continue()));
@@ -31,11 +66,6 @@ describe('a book on the preview server', () => {
     await page.locator('.side[data-drawn="13"]').waitFor();
     await page.waitForFunction(() => document.querySelector('.air').hidden);
     assert.equal(await page.locator('.side:not([hidden])[data-drawn=""]').count(), 1);
-    assert.equal(await page.locator('.missing').count(), 0);
-    const { x, y } = await page.locator('.page[data-place="12"]').boundingBox();
-    assert.deepEqual(await colourAt(page, x + 20, y + 20), [255, 255, 255]);
-    release();
-    assert.deepEqual(await openPages(page), [12, 13]);
-    assert.deepEqual(page.troubles, []);
-  });
+    return release;
+  }
 });
