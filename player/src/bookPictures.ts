@@ -5,6 +5,9 @@ import { type FaceSource, type Paper, paintFace } from './facePainter.ts';
 import type { Box, Size } from './geometry.ts';
 import { type PictureRequest, Pictures } from './pictures.ts';
 
+/** Few, because a canvas that stays keeps its pixels itself. */
+const MOST_BITMAPS = 4;
+
 /** The pictures of a book's pages, on canvases that show a whole page each. */
 export class BookPictures {
   readonly pictures: Pictures;
@@ -23,6 +26,7 @@ export class BookPictures {
       (place) => (page(place)?.width === 0 ? '' : (page(place)?.image ?? '')),
       (place) => ({ width: page(place)?.width ?? 0, height: page(place)?.height ?? 0 }),
       changed,
+      MOST_BITMAPS,
     );
     this.source = {
       picture: (place) => this.pictures.get(place) ?? standIn(place),

@@ -36,6 +36,7 @@ export class Pictures {
     private readonly urlOf: (place: number) => string,
     private readonly sizeOf: (place: number) => Size,
     private readonly changed: (place: number) => void,
+    private readonly mostBitmaps = MOST_BITMAPS,
   ) {}
 
   /** What is to be held, most urgent first. What runs and is not among it any more is given up. */
@@ -134,7 +135,7 @@ export class Pictures {
 
   private dropOldest(): void {
     for (const [place, picture] of this.held) {
-      if (this.held.size <= MOST_BITMAPS) return;
+      if (this.held.size <= this.mostBitmaps) return;
       if (this.wanted.some((request) => request.place === place)) continue;
       this.held.delete(place);
       picture.bitmap.close();
