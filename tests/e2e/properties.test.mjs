@@ -85,7 +85,7 @@ const NO_PICTURES = { readerData: 'NO', largePageWidth: 0, largePageHeight: 0, p
 const [BAR, INK] = ['rgb(247, 244, 237)', 'rgb(74, 68, 58)'];
 
 /** Key, value, what is looked at, what that is without the value, and with it. All of them are set at once. */
-const AT_REST = [
+const IN_THE_BOOK = [
   ['bookTitle', 'Herbst', heading, TITLE, 'Herbst'],
   ['pageEdges', 'NO', count('.edge'), 2, 0],
   ['pageShadow', 'NO', styles('.side[data-drawn="12"]', 'boxShadow'), /px/, 'none'],
@@ -99,7 +99,15 @@ const AT_REST = [
   ['LogoFile', LOGO, styles('.bar .logo img', 'height'), '', '36px'],
   ['LogoFile', LOGO, attributes('.bar .logo img', 'src'), '', LOGO],
   ['appLogoLinkURL', 'http://www.example.org', attributes('.bar a.logo', 'href'), '', 'http://www.example.org'],
+  ['OpenWindow', '_self', attributes('.bar a.logo', 'target'), '', '_self'],
   ['OpenWindow', '_self', attributes('.link[href^=http]', 'target'), '_blank', '_self'],
+  ['languageSetting', 'Arabic', attributes('html', 'lang'), 'fr', 'ar'],
+  ['languageSetting', 'Arabic', lieOfInterface, 'ltr, on to the right', 'rtl, on to the right'],
+];
+const AT_THE_COVER = [
+  ['coverAlone', 'NO', destination, 'Cover', 'Cover–ii'],
+  ['bgImagePosition', 'Center', styles('.leafcast', 'backgroundRepeat'), 'repeat', 'no-repeat'],
+  ['keyboardControl', 'NO', count('.tool[title="Keys"]'), 1, 0],
 ];
 
 /** The same, one by one; then what else is set, and how the book is opened. */
@@ -108,23 +116,17 @@ const BY_DEEDS = [
   ['pageHeight', 900, shape, 0.75, 1, NO_PICTURES],
   ['viewMode', 'Single', pressed('ArrowRight'), 'ii–iii', 'ii'],
   ['viewMode', 'Double', pressed('ArrowRight'), 'ii', 'ii–iii', {}, { width: 768, height: 1024 }],
-  ['coverAlone', 'NO', destination, 'Cover', 'Cover–ii'],
   ['hardCover', 'YES', heldCover],
   ['rightToLeft', 'YES', pressed('ArrowLeft'), 'Cover', 'ii–iii'],
   ['pageColor', '#123456', colourAboveAWidePage, '255,255,255', '18,52,86', { viewMode: 'Single' }, { hash: '#page/9' }],
-  ['bgImagePosition', 'Center', styles('.leafcast', 'backgroundRepeat'), 'repeat', 'no-repeat'],
   ['toolBarVisible', 'NO', count('.bar'), 1, 0],
   ['keyboardControl', 'NO', pressed('ArrowRight'), 'ii–iii', 'Cover'],
-  ['keyboardControl', 'NO', count('.tool[title="Keys"]'), 1, 0],
   ['searchVisible', 'NO', inTurn(press('?'), keysShown), /\//, /^[^/]*$/],
   ['wheelTurns', 'NO', inTurn(turnWheel, destination), 'ii–iii', 'Cover'],
   ['turnDuration', 3000, inTurn(stopClock, press('ArrowRight'), runClock(1200), isStill), true, false],
   ['rememberLastPage', 'NO', inTurn(reopen, openPages, destination), 'Back', 'Cover'],
   ['autoTurnSeconds', 20, inTurn(stopClock, click('Turn pages automatically'), runClock(8000), destination), 'ii–iii', 'Cover'],
   ['turnSound', 'YES', inTurn(press('ArrowRight'), rustles), 0, 1, { soundVisible: 'NO' }],
-  ['languageSetting', 'Spanish', attributes('html', 'lang'), 'fr', 'es', {}, { locale: 'fr-CA' }],
-  ['languageSetting', 'Arabic', lieOfInterface, 'ltr, on to the right', 'rtl, on to the right'],
-  ['OpenWindow', '_self', attributes('.bar a.logo', 'target'), '_blank', '_self', { LogoFile: LOGO, appLogoLinkURL: 'http://www.example.org' }],
   ['linkColor', '#ff0000', inTurn(focusPage, press('Tab'), ringOfFocus), 'rgb(176, 103, 42)', 'rgb(255, 0, 0)', {}, { hash: '#page/2' }],
   ['shareURL', 'https://www.example.org/book/', sharedAddress, /^file:/, 'https://www.example.org/book/#page/1'],
   ['readerData', 'NO', count('.link'), 18, 0, {}, { hash: '#page/2' }],
@@ -175,19 +177,20 @@ describe('each property of the template float does what it says:', () => {
     return seen;
   }
 
-  it('what is seen at rest', async () => {
-    const lookAtAll = async (page) => {
-      const seen = [];
-      for (const [, , look] of AT_REST) seen.push(await look(page));
-      return seen;
-    };
-    const settings = Object.fromEntries(AT_REST);
-    const [before, changed] = [await see(lookAtAll, {}, { hash: '#page/12' }), await see(lookAtAll, settings, { hash: '#page/12' })];
-    for (const [index, [key, , , without, with_]] of AT_REST.entries()) {
-      expect(before[index], without, key);
-      expect(changed[index], with_, key);
-    }
-  });
+  const atRest = { 'what is seen in the book': [IN_THE_BOOK, { hash: '#page/12', locale: 'fr-CA' }], 'what is seen at the cover': [AT_THE_COVER, {}] };
+  for (const [name, [rows, options]] of Object.entries(atRest))
+    it(name, async () => {
+      const lookAtAll = async (page) => {
+        const seen = [];
+        for (const [, , look] of rows) seen.push(await look(page));
+        return seen;
+      };
+      const [before, changed] = [await see(lookAtAll, {}, options), await see(lookAtAll, Object.fromEntries(rows), options)];
+      for (const [index, [key, , , without, with_]] of rows.entries()) {
+        expect(before[index], without, key);
+        expect(changed[index], with_, key);
+      }
+    });
 
   for (const [key, value, look, without, with_, given = {}, options = {}] of BY_DEEDS)
     it(`${key} ${value}`, async () => {
@@ -210,7 +213,7 @@ describe('each property of the template float does what it says:', () => {
   it('none is left out here', () => {
     const leaves = (properties) => properties.flatMap(({ key, children }) => (children ? leaves(children) : [key]));
     const float = TEMPLATES.find(({ name }) => name === 'float');
-    const looked = new Set([...AT_REST, ...BY_DEEDS].map(([key]) => key).concat(Object.keys(CONTROLS)));
+    const looked = new Set([...IN_THE_BOOK, ...AT_THE_COVER, ...BY_DEEDS].map(([key]) => key).concat(Object.keys(CONTROLS)));
     assert.deepEqual(leaves(float.properties).filter((key) => !looked.has(key)), []);
   });
 });
