@@ -86,10 +86,12 @@ export function heightOf(column: Column, { place, part }: Anchor): number {
 }
 
 /**
- * The height at which a reader is taken to be. It moves from the upper edge of the window to the
- * lower one while the document is scrolled through, so that every page gets its turn.
+ * The height at which a reader is taken to be: the middle of the window. Near the ends of the
+ * document it moves to the window's edge, so that every page gets its turn.
  */
 export function readingHeight(scrolled: number, windowHeight: number, wholeHeight: number): number {
   const most = wholeHeight - windowHeight;
-  return scrolled + (most > 0 ? clamp(scrolled / most, 0, 1) : 0) * windowHeight;
+  if (most <= windowHeight) return scrolled + (most > 0 ? clamp(scrolled / most, 0, 1) : 0) * windowHeight;
+  const half = windowHeight / 2;
+  return scrolled + Math.min(half, Math.max(scrolled, 0)) + half - Math.min(half, Math.max(most - scrolled, 0));
 }

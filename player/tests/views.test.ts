@@ -57,6 +57,7 @@ test('every page gets its turn of being read, from the first to the last', () =>
     places.add(placeAt(column, readingHeight(scrolled, windowHeight, column.height)));
   assert.deepEqual([...places], [1, 2, 3, 4, 5, 6]);
   assert.equal(readingHeight(0, 900, 500), 0, 'all of it is seen');
+  assert.equal(readingHeight(3000, 900, 9000), 3450, 'the middle of the window');
 });
 
 test('dots are those around the open page, as many as there may be', () => {
