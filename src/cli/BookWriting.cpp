@@ -37,6 +37,10 @@ namespace {
         auto config = std::make_shared<HTMLConfigInfo>();
         // What a person typed may hold markup; what a file says may not.
         config->setHTMLTitle(parts.options.title ? title(parts) : title(parts).toHtmlEscaped());
+        if (parts.options.description)
+            config->setHTMLDescription(fromArgument(*parts.options.description));
+        if (parts.options.keywords)
+            config->setHTMLKeywords(fromArgument(*parts.options.keywords));
         return config;
     }
 

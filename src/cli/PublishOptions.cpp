@@ -48,6 +48,9 @@ namespace {
     {
         command.add_option(
             "--title", options.title, "Title of the book [the PDF's own, else the file's name]");
+        command.add_option("--description", options.description,
+            "What the page says of the book to search engines, and where it is shared");
+        command.add_option("--keywords", options.keywords, "Its keywords, separated by commas");
         command.add_option("--name", options.name,
             "File name of the page [index.html], or of the package [the input's]");
         command.add_flag(

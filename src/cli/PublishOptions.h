@@ -16,6 +16,8 @@ struct PublishOptions {
     std::string pages = "ALL";
     int qualityLevel = 0;
     std::optional<std::string> title;
+    std::optional<std::string> description;
+    std::optional<std::string> keywords;
     std::optional<std::string> name;
     TemplateOptions templateOptions;
     bool app = false;

@@ -70,6 +70,16 @@ TEST_F(PublishCommand, TakesTheTitleFromOptionDocumentOrFileAndEscapesTheLastTwo
     EXPECT_TRUE(content("c/index.html").contains("<title>Trees &amp; co</title>"));
 }
 
+TEST_F(PublishCommand, PutsDescriptionAndKeywordsIntoThePageAsTheyWereTyped)
+{
+    writeNumberedPDF(u"in.pdf"_s, 1);
+    run({ u"publish"_s, u"in.pdf"_s, u"a"_s, u"--description"_s, u"Wood &amp; leaves"_s,
+        u"--keywords"_s, QString() });
+    const QByteArray page = content("a/index.html");
+    EXPECT_TRUE(page.contains("<meta name=\"description\" content=\"Wood &amp; leaves\">"));
+    EXPECT_TRUE(page.contains("<meta name=\"keywords\" content=\"\">"));
+}
+
 TEST_F(PublishCommand, AnOptionBeatsTheEnvironmentWhichBeatsTheDefault)
 {
     writeNumberedPDF(u"in.pdf"_s, 1);
