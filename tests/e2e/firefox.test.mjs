@@ -46,7 +46,8 @@ describe('a book in Firefox', () => {
       assert.deepEqual(await turnWith(page, () => page.goBack()), [4, 5]);
       await page.keyboard.press('/');
       await page.keyboard.type('chestnut');
-      const hit = await page.waitForSelector('.hits li:last-child button');
+      const hit = await page.waitForFunction(() =>
+        [...document.querySelectorAll('.hits button')].find(({ textContent }) => textContent.startsWith('Page 13')));
       assert.deepEqual(await turnWith(page, () => hit.click()), [12, 13]);
       assert.ok((await page.$$('.mark')).length > 0);
       await page.keyboard.press('+');
