@@ -18,6 +18,8 @@ const WAYS: Readonly<Record<ViewKind, readonly Row[]>> = {
   scroll: [['keyScroll', ['↑', '↓', 'Space', 'Page Up', 'Page Down']]],
 };
 
+const PAN: Row = ['keyPan', ['←', '→', '↑', '↓']];
+
 /** Which keys do what in this book and this browser. */
 export function openHelpDialog(ui: Ui): void {
   const { say } = ui;
@@ -28,6 +30,7 @@ export function openHelpDialog(ui: Ui): void {
     ...WAYS[ui.reader.kind],
     ['keyEnds', ['Home', 'End']],
     ['keyZoom', ['+', '−']],
+    ...(ui.reader.kind === 'scroll' ? [] : [PAN]),
     ['fit', ['0']],
     ...fullScreen,
     ...search,

@@ -7,13 +7,13 @@ import type { Ui } from './ui.ts';
 /** Asks which pages to print and prints their pictures, one a sheet. */
 export function openPrintDialog(ui: Ui): void {
   const { say, names, reader } = ui;
-  const pages = create('input', {
+  const field = create('input', {
     type: 'text',
     className: 'field',
     'aria-label': say('printExample'),
     placeholder: '1-4, 7',
   });
-  const some = choice(say('printSome'), 'some', false, pages);
+  const some = choice(say('printSome'), 'some', false, field);
   const note = create('p', { className: 'note', role: 'status' }, say('printExample'));
   const form = create(
     'form',
@@ -24,18 +24,17 @@ export function openPrintDialog(ui: Ui): void {
     note,
     create('button', { type: 'submit', className: 'main-button' }, say('print')),
   );
-  pages.addEventListener('focus', () => (some.querySelector('input')!.checked = true));
-  const close = openDialog(ui, say('print'), form);
+  field.addEventListener('focus', () => (some.querySelector('input')!.checked = true));
+  const { close, closed } = openDialog(ui, say('print'), form);
   form.addEventListener('submit', (event) => {
     event.preventDefault();
-    const places = chosen(String(new FormData(form).get('pages')), pages.value, ui);
+    const places = chosen(String(new FormData(form).get('pages')), field.value, ui);
     note.textContent = say(places ? 'printing' : 'printWrong');
-    pages.setAttribute('aria-invalid', String(!places));
-    if (!places) return pages.focus();
-    void printPages(
-      places.map((place) => reader.book.pages[place - 1]!.image),
-      places.map((place) => names.label(place)),
-    ).then(close);
+    field.setAttribute('aria-invalid', String(!places));
+    if (!places) return field.focus();
+    const pages = places.map((place) => ({ url: reader.book.pages[place - 1]!.image, label: names.label(place) }));
+    const tell = (done: number) => (note.textContent = `${say('printing')} ${done} / ${places.length}`);
+    void printPages(pages, tell, closed).then(close);
   });
 }
 
@@ -50,17 +49,34 @@ function chosen(which: string, text: string, { reader, names }: Ui): readonly nu
   return names.findRange(text);
 }
 
-/** Pages that cannot be loaded are left out. */
-async function printPages(urls: readonly string[], labels: readonly string[]): Promise<void> {
-  const loaded = await Promise.all(urls.map((url, index) => pictureOf(url, labels[index]!)));
-  const takeAway = putOnPaper(loaded.flatMap((picture) => picture ?? []));
-  const done = new Promise((resolve) => window.addEventListener('afterprint', resolve, { once: true }));
+interface PageToPrint {
+  readonly url: string;
+  readonly label: string;
+}
+
+const AT_ONCE = 4;
+
+/** Pages that cannot be loaded are left out. Nothing is printed once the dialog is closed. */
+async function printPages(pages: readonly PageToPrint[], tell: (done: number) => void, closed: AbortSignal): Promise<void> {
+  const pictures = new Array<HTMLElement | undefined>(pages.length);
+  let [next, done] = [0, 0];
+  const load = async () => {
+    while (next < pages.length && !closed.aborted) {
+      const at = next++;
+      pictures[at] = await pictureOf(pages[at]!);
+      tell(++done);
+    }
+  };
+  await Promise.all(Array.from({ length: AT_ONCE }, load));
+  if (closed.aborted) return;
+  const takeAway = putOnPaper(pictures.flatMap((picture) => picture ?? []));
+  const printed = new Promise((resolve) => window.addEventListener('afterprint', resolve, { once: true }));
   window.print();
-  await done;
+  await printed;
   takeAway();
 }
 
-function pictureOf(url: string, label: string): Promise<HTMLElement | undefined> {
+function pictureOf({ url, label }: PageToPrint): Promise<HTMLElement | undefined> {
   return new Promise((resolve) => {
     const picture = create('img', { alt: label });
     picture.onload = () => resolve(picture);

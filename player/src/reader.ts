@@ -8,7 +8,7 @@ import { Thumbnails } from './thumbnails.ts';
 import type { View, ViewKind } from './view.ts';
 import { makeView } from './views.ts';
 import type { Zoom } from './zoom.ts';
-import { zoomAbout } from './zoom.ts';
+import { panBy, zoomAbout } from './zoom.ts';
 
 export interface ReaderEvents {
   /** The pages that will lie open; said at once, while leaves still move. */
@@ -118,6 +118,15 @@ export class Reader extends Emitter<ReaderEvents> {
   zoomTo(scale: number): void {
     const { clientWidth, clientHeight } = this.view.host;
     this.view.setZoom(zoomAbout(this.view.zoom, { x: clientWidth / 2, y: clientHeight / 2 }, scale));
+  }
+
+  /** Moves on over a zoomed page by parts of the stage; answers whether there was anywhere to go. */
+  pan(across: number, down: number): boolean {
+    const { zoom, host } = this.view;
+    if (zoom.scale <= 1) return false;
+    this.view.setZoom(panBy(zoom, { x: -across * host.clientWidth, y: -down * host.clientHeight }));
+    const { x, y } = this.view.zoom.offset;
+    return Math.abs(x - zoom.offset.x) > 1 || Math.abs(y - zoom.offset.y) > 1;
   }
 
   /** Whether a page's picture could not be loaded. */

@@ -45,6 +45,7 @@ export class ScrollView implements View {
   private readonly canvases = new Map<number, HTMLCanvasElement>(); // by place
   private column: Column = { boxes: [], width: 0, height: 0 };
   private scale = 1;
+  private windowHeight = 0; // that the pages were laid out for
   private left = 0; // of the sheet, where it is narrower than the window
   private aim: Aim | undefined;
   private reducedMotion = false;
@@ -145,14 +146,16 @@ export class ScrollView implements View {
     const { clientWidth, clientHeight, scrollTop } = this.host;
     if (!clientWidth || !clientHeight) return;
     const isFirst = this.column.height === 0;
-    const anchor = isFirst || this.aim ? { place: this.place, part: 0 } : anchorAt(this.column, scrollTop / this.scale);
+    const middle = (scrollTop + this.windowHeight / 2) / this.scale;
+    const anchor = isFirst || this.aim ? { place: this.place, part: 0 } : anchorAt(this.column, middle);
+    this.windowHeight = clientHeight;
     this.column = layoutColumn(this.book.pages, this.book.shape, clientWidth, this.options.readingWidth);
     this.scale = Math.min(this.scale, MOST_HEIGHT / this.column.height);
     for (const place of this.canvases.keys()) this.drop(place);
     this.shown = '';
     this.placeSheet();
     if (isFirst || this.aim) this.goTo(anchor.place);
-    else this.host.scrollTop = heightOf(this.column, anchor) * this.scale;
+    else this.host.scrollTop = heightOf(this.column, anchor) * this.scale - clientHeight / 2;
     this.scrolled();
   }
 

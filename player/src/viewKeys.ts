@@ -14,13 +14,24 @@ const KEYS: Readonly<Record<ViewKind, (ui: Ui) => Actions>> = { book: turnKeys, 
 /** The keys by which a reader moves through the kind of view that there is. */
 export const viewKeys = (ui: Ui): Actions => KEYS[ui.reader.kind](ui);
 
+const PAN_PART = 0.2; // of the stage
+const WHOLE_PAGE = 10; // more than any zoom makes of it
+
+/** Arrows move over a zoomed page first, and turn it where it ends. */
 function turnKeys({ reader }: Ui): Actions {
   const on = () => void reader.next();
   const back = () => void reader.previous();
   const { rightToLeft } = reader.settings;
+  const sideways = (side: 1 | -1, turn: () => void) => {
+    if (reader.pan(side * PAN_PART, 0)) return;
+    turn();
+    reader.pan(-side * WHOLE_PAGE, 0); // where the next page is read from
+  };
   return {
-    ArrowRight: rightToLeft ? back : on,
-    ArrowLeft: rightToLeft ? on : back,
+    ArrowRight: () => sideways(1, rightToLeft ? back : on),
+    ArrowLeft: () => sideways(-1, rightToLeft ? on : back),
+    ArrowDown: () => void reader.pan(0, PAN_PART),
+    ArrowUp: () => void reader.pan(0, -PAN_PART),
     PageDown: on,
     PageUp: back,
     Home: () => reader.goTo(1),
@@ -37,8 +48,8 @@ function presenterKeys(ui: Ui): Actions {
   return {
     ...keys,
     ...numberKeys(ui),
-    ArrowDown: on,
-    ArrowUp: back,
+    ArrowDown: () => ui.reader.pan(0, PAN_PART) || on(),
+    ArrowUp: () => ui.reader.pan(0, -PAN_PART) || back(),
     Space: on,
     'Shift Space': back,
     Backspace: back,

@@ -146,9 +146,24 @@ describe('the book in hands', () => {
     await page.keyboard.press('+');
     await page.locator('.sharp canvas').first().waitFor({ state: 'attached' });
     await page.locator('.sharp canvas').evaluateAll((crops) => crops.forEach((crop) => crop.classList.add('old')));
-    assert.deepEqual(await turnWith(page, () => page.keyboard.press('ArrowRight')), [6, 7]);
+    assert.deepEqual(await turnWith(page, () => page.keyboard.press('PageDown')), [6, 7]);
     await page.waitForFunction(() => document.querySelectorAll('.sharp canvas').length === 2);
     assert.equal(await page.locator('.sharp .old').count(), 0);
+  });
+
+  it('goes over a zoomed page with the arrow keys, and turns it where it ends', async () => {
+    const { page } = await open(quick);
+    for (let press = 0; press < 3; press++) await page.keyboard.press('+');
+    const middle = await zoomOf(page);
+    await page.keyboard.press('ArrowDown');
+    await page.keyboard.press('ArrowRight');
+    const moved = await zoomOf(page);
+    assert.ok(moved.x < middle.x && moved.y < middle.y);
+    assert.deepEqual(await openPages(page), [4, 5]);
+    const start = await destination(page);
+    for (let press = 0; press < 9 && (await destination(page)) === start; press++) await page.keyboard.press('ArrowRight');
+    assert.deepEqual(await openPages(page), [6, 7]);
+    assert.ok((await zoomOf(page)).x > middle.x, 'it is read on from the left');
   });
 
   describe('fingers', () => {

@@ -65,6 +65,7 @@ export const arabic: Texts = {
   keyScroll: 'التمرير',
   keyEnds: 'الصفحة الأولى والأخيرة',
   keyZoom: 'تكبير وتصغير',
+  keyPan: 'التنقل داخل صفحة مكبّرة',
   blackScreen: 'شاشة سوداء',
   keyClose: 'إغلاق اللوحة',
   newWindow: '{0} (نافذة جديدة)',

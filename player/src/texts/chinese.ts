@@ -65,6 +65,7 @@ export const chinese: Texts = {
   keyScroll: '滚动',
   keyEnds: '首页和末页',
   keyZoom: '放大和缩小',
+  keyPan: '在放大的页面上移动',
   blackScreen: '黑屏',
   keyClose: '关闭面板',
   newWindow: '{0}（新窗口）',

@@ -65,6 +65,7 @@ export const english = {
   keyScroll: 'Scroll',
   keyEnds: 'First and last page',
   keyZoom: 'Zoom in and out',
+  keyPan: 'Move over a zoomed page',
   blackScreen: 'Black screen',
   keyClose: 'Close a panel',
   newWindow: '{0} (new window)',

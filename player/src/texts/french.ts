@@ -65,6 +65,7 @@ export const french: Texts = {
   keyScroll: 'Faire défiler',
   keyEnds: 'Première et dernière page',
   keyZoom: 'Agrandir et réduire',
+  keyPan: 'Parcourir une page agrandie',
   blackScreen: 'Écran noir',
   keyClose: 'Fermer un volet',
   newWindow: '{0} (nouvelle fenêtre)',

@@ -65,6 +65,7 @@ export const german: Texts = {
   keyScroll: 'Scrollen',
   keyEnds: 'Erste und letzte Seite',
   keyZoom: 'Vergrößern und verkleinern',
+  keyPan: 'Über eine vergrößerte Seite bewegen',
   blackScreen: 'Schwarzer Bildschirm',
   keyClose: 'Bereich schließen',
   newWindow: '{0} (neues Fenster)',

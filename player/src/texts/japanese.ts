@@ -65,6 +65,7 @@ export const japanese: Texts = {
   keyScroll: 'スクロール',
   keyEnds: '最初と最後のページ',
   keyZoom: '拡大と縮小',
+  keyPan: '拡大したページの中を移動',
   blackScreen: '黒い画面',
   keyClose: 'パネルを閉じる',
   newWindow: '{0}（新しいウィンドウ）',

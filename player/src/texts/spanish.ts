@@ -65,6 +65,7 @@ export const spanish: Texts = {
   keyScroll: 'Desplazarse',
   keyEnds: 'Primera y última página',
   keyZoom: 'Ampliar y reducir',
+  keyPan: 'Recorrer una página ampliada',
   blackScreen: 'Pantalla en negro',
   keyClose: 'Cerrar un panel',
   newWindow: '{0} (ventana nueva)',
