@@ -184,6 +184,20 @@ describe('slides', () => {
     }
   });
 
+  it('are alone on the full screen but for the bars of a moving mouse', async () => {
+    const page = await open(quick, { hash: '#page/4' });
+    await page.getByRole('button', { name: 'Full screen' }).click();
+    await page.waitForFunction(() => document.fullscreenElement && !document.querySelector('.awake'));
+    const { y, height } = await page.locator('.side:not([hidden])').boundingBox();
+    assert.ok(y < 1 && height > 799, 'as large as the screen');
+    const opacity = (value) => page.waitForFunction((wanted) => getComputedStyle(document.querySelector('.bar')).opacity === wanted, value);
+    await opacity('0');
+    // Space is for the page, not for the button that was pressed.
+    assert.deepEqual(await turnWith(page, () => page.keyboard.press('Space')), [5]);
+    await page.mouse.move(300, 300);
+    await opacity('1');
+  });
+
   it('have dots that lead to the pages around the open one, and stay few', async () => {
     const page = await open(quick, { hash: '#page/8' });
     const names = () => page.locator('.dots button').evaluateAll((dots) => dots.map((dot) => Number(dot.dataset.place)));
