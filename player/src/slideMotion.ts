@@ -63,7 +63,8 @@ export class SlideMotion {
 
   /** Answers whether there is a page to turn to. */
   turn(count: number): boolean {
-    if (this.standIn?.slot === this.target) this.show(this.destination);
+    // The page meant is the one that belongs into the stand-in's slot, or beside where the stand-in belongs.
+    if (this.standIn && [this.target, this.target + count].includes(this.standIn.slot)) this.show(this.destination);
     const wanted = clamp(this.target + count, 1, this.pageCount);
     const turns = wanted !== this.target;
     this.target = wanted;

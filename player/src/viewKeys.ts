@@ -97,11 +97,10 @@ function scrollKeys({ root, reader }: Ui): Actions {
     PageUp: windows(-1),
     Space: windows(1),
     'Shift Space': windows(-1),
-    Home: () => reader.goTo(1),
-    End: () => reader.goTo(reader.pageCount),
   };
   stage.addEventListener('keydown', (event) => {
     if (keyName(event) in keys) event.stopPropagation();
   });
-  return keys;
+  // Far enough to be undone by the back button.
+  return { ...keys, Home: () => reader.goTo(1), End: () => reader.goTo(reader.pageCount, 1) };
 }

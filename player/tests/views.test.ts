@@ -124,6 +124,10 @@ test('a jump that is turned back on its way leads to where it came from', () => 
   motion.turn(1);
   rest(motion);
   assert.equal(motion.destination, 7);
+  motion.jump(80);
+  motion.step(1 / 60);
+  motion.turn(-1);
+  assert.equal(motion.destination, 79, 'the page before the one jumped to, not the one that was left');
 });
 
 test('the strip gives a little beyond its ends and comes back', () => {

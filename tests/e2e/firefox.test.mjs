@@ -55,6 +55,26 @@ describe('a book in Firefox', () => {
       assert.deepEqual(page.troubles, []);
     });
 
+  for (const template of ['slide', 'scroll'])
+    it(`moves through pages of the template ${template}`, async () => {
+      const other = publishMagazine('--template', template, ...(template === 'slide' ? ['--set', 'turnDuration=150'] : []));
+      try {
+        await open(`${pathToFileURL(other).href}/`, '#page/4');
+        const isAt = (place) => page.waitForFunction((hash) => location.hash === hash, {}, `#page/${place}`);
+        for (const [key, place] of [['End', 16], ['Home', 1], ['PageDown', template === 'slide' ? 2 : 1]]) {
+          await page.keyboard.press(key);
+          await isAt(place);
+        }
+        await page.goBack();
+        await isAt(16);
+        await page.keyboard.press('+');
+        await page.waitForSelector('.sharp canvas');
+        assert.deepEqual(page.troubles, []);
+      } finally {
+        removeBook(other);
+      }
+    });
+
   it('draws a leaf that a mouse holds in the air', async () => {
     await open(addresses['from the preview server'](), '#page/4');
     const { x, y, width, height } = await (await page.$('.side + .side')).boundingBox();
