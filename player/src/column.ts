@@ -95,3 +95,11 @@ export function readingHeight(scrolled: number, windowHeight: number, wholeHeigh
   const half = windowHeight / 2;
   return scrolled + Math.min(half, Math.max(scrolled, 0)) + half - Math.min(half, Math.max(most - scrolled, 0));
 }
+
+/** The other way round: how far to scroll for a height to be the one that is read. */
+export function scrolledTo(height: number, windowHeight: number, wholeHeight: number): number {
+  const most = Math.max(wholeHeight - windowHeight, 0);
+  if (most <= windowHeight) return (height * most) / wholeHeight;
+  if (height < windowHeight) return height / 2;
+  return height <= most ? height - windowHeight / 2 : (height + most - windowHeight) / 2;
+}

@@ -2,7 +2,7 @@
 import type { Book } from './book.ts';
 import { BookPictures } from './bookPictures.ts';
 import { makeCanvas, putCanvas } from './canvas.ts';
-import { anchorAt, type Column, heightOf, layoutColumn, placesBetween, placeAt, readingHeight } from './column.ts';
+import { type Anchor, anchorAt, type Column, heightOf, layoutColumn, placesBetween, readingHeight, scrolledTo } from './column.ts';
 import { create } from './dom.ts';
 import type { Paper } from './facePainter.ts';
 import { type Box, clamp } from './geometry.ts';
@@ -45,12 +45,12 @@ export class ScrollView implements View {
   private readonly canvases = new Map<number, HTMLCanvasElement>(); // by place
   private column: Column = { boxes: [], width: 0, height: 0 };
   private scale = 1;
-  private windowHeight = 0; // that the pages were laid out for
   private left = 0; // of the sheet, where it is narrower than the window
   private aim: Aim | undefined;
   private reducedMotion = false;
   private shown = '';
   private last = 0; // scrolled to
+  private reading: Anchor;
   private told: number;
   private rest = 0;
 
@@ -62,6 +62,7 @@ export class ScrollView implements View {
     place: number,
   ) {
     this.told = place;
+    this.reading = { place, part: 0 };
     this.pictures = new BookPictures(book, options.paper, options.standIn, (at) => this.pictured(at));
     this.sharp = new SharpView(this.pictures.pictures);
     this.sheet.append(this.sharp.element);
@@ -143,19 +144,16 @@ export class ScrollView implements View {
   }
 
   private arrange(): void {
-    const { clientWidth, clientHeight, scrollTop } = this.host;
+    const { clientWidth, clientHeight } = this.host;
     if (!clientWidth || !clientHeight) return;
-    const isFirst = this.column.height === 0;
-    const middle = (scrollTop + this.windowHeight / 2) / this.scale;
-    const anchor = isFirst || this.aim ? { place: this.place, part: 0 } : anchorAt(this.column, middle);
-    this.windowHeight = clientHeight;
+    const goesTo = this.column.height === 0 ? this.told : this.aim?.place;
     this.column = layoutColumn(this.book.pages, this.book.shape, clientWidth, this.options.readingWidth);
     this.scale = Math.min(this.scale, MOST_HEIGHT / this.column.height);
     for (const place of this.canvases.keys()) this.drop(place);
     this.shown = '';
     this.placeSheet();
-    if (isFirst || this.aim) this.goTo(anchor.place);
-    else this.host.scrollTop = heightOf(this.column, anchor) * this.scale - clientHeight / 2;
+    if (goesTo) this.goTo(goesTo);
+    else this.host.scrollTop = scrolledTo(heightOf(this.column, this.reading), clientHeight / this.scale, this.column.height) * this.scale;
     this.scrolled();
   }
 
@@ -205,7 +203,8 @@ export class ScrollView implements View {
 
   private tellPlace(): void {
     const { scrollTop, clientHeight, scrollHeight } = this.host;
-    const place = this.aim?.place ?? placeAt(this.column, readingHeight(scrollTop, clientHeight, scrollHeight) / this.scale);
+    this.reading = anchorAt(this.column, readingHeight(scrollTop, clientHeight, scrollHeight) / this.scale);
+    const { place } = this.aim ?? this.reading;
     if (place === this.told) return;
     this.told = place;
     this.events.turned([place]);

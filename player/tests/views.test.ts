@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
-import { anchorAt, heightOf, layoutColumn, placeAt, placesBetween, readingHeight } from '../src/column.ts';
+import { anchorAt, heightOf, layoutColumn, placeAt, placesBetween, readingHeight, scrolledTo } from '../src/column.ts';
 import { dotPlaces } from '../src/dots.ts';
 import { readSettings } from '../src/settings.ts';
 import { landing, SlideMotion } from '../src/slideMotion.ts';
@@ -57,6 +57,9 @@ test('every page gets its turn of being read, from the first to the last', () =>
     places.add(placeAt(column, readingHeight(scrolled, windowHeight, column.height)));
   assert.deepEqual([...places], [1, 2, 3, 4, 5, 6]);
   assert.equal(readingHeight(0, 900, 500), 0, 'all of it is seen');
+  for (const whole of [1000, 1700, 2700, 9000])
+    for (let scrolled = 0; scrolled <= whole - windowHeight; scrolled += 50)
+      assert.ok(Math.abs(scrolledTo(readingHeight(scrolled, windowHeight, whole), windowHeight, whole) - scrolled) < 1e-6, 'and back');
   assert.equal(readingHeight(3000, 900, 9000), 3450, 'the middle of the window');
 });
 

@@ -301,6 +301,7 @@ describe('pages below each other', () => {
     await page.locator('.contents a[href="#page/10"]').first().click();
     await settledAt(page, 10);
     assert.ok(Math.abs(await topOf(page, 10)) < 30);
+    await page.waitForFunction(() => document.activeElement.dataset.place === '10');
     await page.goBack();
     await settledAt(page, 3);
     assert.ok(Math.abs(await topOf(page, 3)) < 30);
