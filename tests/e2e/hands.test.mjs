@@ -101,11 +101,13 @@ describe('the book in hands', () => {
     });
     for (let press = 1; press <= 5; press++) await page.keyboard.press('ArrowRight');
     await waitForDestination(page, '9');
+    await page.locator('.page[data-place="9"]').waitFor();
     assert.deepEqual(await openPages(page), [9]);
     const seen = await page.evaluate(() => [...window.seen]);
     assert.deepEqual([3, 5, 7, 8, 9].filter((place) => !seen.includes(place)), [], 'each leaf lays its next page open');
     for (let press = 1; press <= 2; press++) await page.keyboard.press('ArrowLeft');
     await waitForDestination(page, '6–7');
+    await page.locator('.page[data-place="6"]').waitFor();
     assert.deepEqual(await openPages(page), [6, 7]);
   });
 

@@ -92,13 +92,13 @@ export function collectTroubles(page, home) {
 
 /** The places of the pages that lie open with their pictures drawn, once no leaf moves any more. */
 export async function openPages(page) {
-  await page.waitForFunction(() => {
+  const open = await page.waitForFunction(() => {
     const shown = [...document.querySelectorAll('.page')].map((each) => each.dataset.place);
     const drawn = [...document.querySelectorAll('.side:not([hidden])')].map((side) => side.dataset.drawn);
     const isStill = document.querySelector('.air')?.hidden ?? !document.querySelector('.sheet.moving');
-    return isStill && shown.length > 0 && shown.every((place) => drawn.includes(place));
+    return isStill && shown.length > 0 && shown.every((place) => drawn.includes(place)) && shown.map(Number);
   });
-  return page.evaluate(() => [...document.querySelectorAll('.page')].map((each) => Number(each.dataset.place)));
+  return open.jsonValue();
 }
 
 /** Does what turns pages; answers the places that lie open once other ones do. */
