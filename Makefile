@@ -12,13 +12,13 @@ help: ## Show the targets
 
 demo: ## Set up, build, and turn the sample PDF into a book
 	@tools/setup build
-	@tools/build release
-	@build/release/bin/leafcast publish samples/magazine.pdf $(DEMO_BOOK) --force
+	@tools/build headless
+	@build/headless/bin/leafcast publish samples/magazine.pdf $(DEMO_BOOK) --force
 	@echo
 	@echo "The book lies in $(CURDIR)/$(DEMO_BOOK)."
 	@echo "Look at it: open $(CURDIR)/$(DEMO_BOOK)/index.html in a browser,"
 	@echo "or: xdg-open $(DEMO_BOOK)/index.html"
-	@echo "On a tablet: build/release/bin/leafcast serve $(DEMO_BOOK) shows the address and its QR code."
+	@echo "On a tablet: build/headless/bin/leafcast serve $(DEMO_BOOK) shows the address and its QR code."
 
 test: ## Set up, build and run every test
 	@tools/setup test
@@ -51,8 +51,8 @@ samples: ## Make the sample magazine, the first book's pages, the templates, the
 
 shots: ## Take the pictures of the styles from a real book
 	@tools/setup samples
-	@tools/build release
-	@LEAFCAST="$(CURDIR)/build/release/bin/leafcast" node tools/make-shots.mjs
+	@tools/build headless
+	@LEAFCAST="$(CURDIR)/build/headless/bin/leafcast" node tools/make-shots.mjs
 
 golden: ## Draw the golden pictures of the turning leaf anew; look at them before a commit
 	@tools/setup test
@@ -67,7 +67,7 @@ format: ## Format the changed files
 	@tools/changed-sources | xargs -r clang-format -i
 
 install: ## Install the release build (PREFIX, DESTDIR)
-	@tools/setup build
+	@tools/setup app
 	@tools/build release
 	@DESTDIR="$(DESTDIR)" cmake --install build/release --prefix "$(PREFIX)"
 

@@ -13,7 +13,7 @@ import { TEMPLATES } from './templates/templates.mjs';
 
 const STYLES = fileURLToPath(new URL('../resources/AppFiles/Styles/', import.meta.url));
 const MAGAZINE = fileURLToPath(new URL('../samples/magazine.pdf', import.meta.url));
-const PROGRAM = process.env.LEAFCAST || fileURLToPath(new URL('../build/release/bin/leafcast', import.meta.url));
+const PROGRAM = process.env.LEAFCAST || fileURLToPath(new URL('../build/headless/bin/leafcast', import.meta.url));
 const README_PICTURE = fileURLToPath(new URL('../docs/images/book.jpg', import.meta.url));
 const README_STYLE = 'Wall-line';
 const README_WINDOW = { width: 1280, height: 800 };
