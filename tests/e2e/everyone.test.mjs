@@ -42,16 +42,18 @@ const STATES = {
   'the list of keys': (page) => press(page, 'Keys'),
 };
 
-/** What can be pressed and is, with the space around links that belongs to them, smaller than so many pixels either way. */
+/** What can be pressed and is smaller than so many pixels either way; space around a link belongs to it. */
 const smallTargets = (page, least) =>
   page.evaluate((pixels) => {
     const sizeOf = (element) => {
-      const area = element.matches('.link') ? getComputedStyle(element, '::before') : (element.closest('label') ?? element).getBoundingClientRect();
+      const box = (element.closest('label') ?? element).getBoundingClientRect();
+      const area = element.matches('.link') ? getComputedStyle(element, '::before') : box;
       return [area.width, area.height].map(parseFloat);
     };
-    const targets = [...document.querySelectorAll('a, button, input')].filter((each) => each.checkVisibility() && !each.matches('.skip'));
+    const isTarget = (each) => each.checkVisibility() && !each.matches('.skip');
+    const targets = [...document.querySelectorAll('a, button, input')].filter(isTarget);
     const small = targets.filter((each) => Math.min(...sizeOf(each)) < pixels - 0.1);
-    return small.map((each) => `${each.className || each.tagName} ${each.title || each.textContent}: ${sizeOf(each).join(' x ')}`);
+    return small.map((each) => `${each.outerHTML}: ${sizeOf(each).join(' x ')}`);
   }, least);
 
 /** Steps through by Tab to the end; answers what has the focus at each step, and what of it is out of sight. */
@@ -64,7 +66,8 @@ async function tabThrough(page, most = 60) {
       const { x, y, width, height } = focused.getBoundingClientRect();
       const top = document.elementFromPoint(x + width / 2, y + height / 2);
       const name = focused.getAttribute('aria-label') || focused.title || focused.textContent.trim();
-      return { name: focused === document.body ? '' : name, isSeen: focused.contains(top) || focused.closest('label')?.contains(top) };
+      const isSeen = (focused.closest('label') ?? focused).contains(top);
+      return { name: focused === document.body ? '' : name, isSeen };
     });
     if (!stop.name) return { stops, hidden };
     stops.push(stop.name);
@@ -116,7 +119,8 @@ describe('the book for everyone', () => {
       const { stops, hidden } = await tabThrough(page);
       const links = stops.filter((stop) => /: (Go to page|https?:|mailto:)/.test(stop));
       assert.equal(links.length, 18);
-      assert.deepEqual(stops, ['Skip to the pages', ...BAR, 'Previous page', ...links, 'Next page', 'Place in the book', 'Page number']);
+      const foot = ['Place in the book', 'Page number'];
+      assert.deepEqual(stops, ['Skip to the pages', ...BAR, 'Previous page', ...links, 'Next page', ...foot]);
       assert.deepEqual(hidden, []);
     });
 
@@ -166,7 +170,8 @@ describe('the book for everyone', () => {
     await page.evaluate(() => {
       window.said = [];
       const status = document.querySelector('p[role=status]');
-      new MutationObserver(() => window.said.push(status.textContent)).observe(status, { childList: true, characterData: true, subtree: true });
+      const note = () => window.said.push(status.textContent);
+      new MutationObserver(note).observe(status, { childList: true, characterData: true, subtree: true });
     });
     await turnWith(page, () => page.keyboard.press('ArrowRight'));
     await turnWith(page, () => page.keyboard.press('Home'));
@@ -198,7 +203,8 @@ describe('the book for everyone', () => {
       window.seen = { flown: 0, faded: 0 };
       const [sheet, air] = [document.querySelector('.sheet'), document.querySelector('.air')];
       new MutationObserver(() => (window.seen.flown += air.hidden ? 0 : 1)).observe(air, { attributes: true });
-      new MutationObserver(() => (window.seen.faded += sheet.querySelectorAll('.fading').length)).observe(sheet, { childList: true });
+      const noteFades = () => (window.seen.faded += sheet.querySelectorAll('.fading').length);
+      new MutationObserver(noteFades).observe(sheet, { childList: true });
     });
     assert.deepEqual(await turnWith(page, () => page.keyboard.press('ArrowRight')), [6, 7]);
     await page.waitForFunction(() => window.seen.faded > 0 && !document.querySelector('.fading'));
@@ -211,7 +217,8 @@ describe('the book for everyone', () => {
     await press(page, 'Contents');
     const drawn = (selector) => page.locator(selector).first().evaluate((element) => {
       const { borderTopStyle, borderTopWidth, borderTopColor, backgroundColor, outlineStyle } = getComputedStyle(element);
-      return { hasEdge: borderTopStyle !== 'none' && parseFloat(borderTopWidth) > 0 && borderTopColor !== backgroundColor, outlineStyle };
+      const hasBorder = borderTopStyle !== 'none' && parseFloat(borderTopWidth) > 0;
+      return { hasEdge: hasBorder && borderTopColor !== backgroundColor, outlineStyle };
     });
     for (const selector of ['.panel', '.bar', '.turn', '.tool[aria-expanded=true]', 'a[aria-current]'])
       assert.equal((await drawn(selector)).hasEdge, true, `${selector} has no edge`);
@@ -233,7 +240,7 @@ describe('the book for everyone', () => {
     await field.fill('5-7, iii');
     await page.keyboard.press('Enter');
     await page.waitForFunction(() => window.printed === 4);
-    const files = await page.locator('.leafcast-print img').evaluateAll((pictures) => pictures.map((each) => each.src.split('/').at(-1)));
+    const files = await page.locator('.leafcast-print img').evaluateAll((all) => all.map(({ src }) => src.split('/').at(-1)));
     assert.deepEqual(files, ['3.jpg', '5.jpg', '6.jpg', '7.jpg']);
     const sheets = (await page.pdf({ width: '600px', height: '800px' })).toString('latin1').match(/\/Type\s*\/Page\b/g);
     assert.equal(sheets.length, 4);

@@ -5,14 +5,18 @@ import { launchBrowser } from '../../tools/browser.mjs';
 import { changedBook, colourAt, openBook, openPages, publishColours, removeBook, turnWith } from './support.mjs';
 
 const PORTRAIT = { width: 300, height: 400 };
-const COLOURS = [[200, 40, 40], [40, 160, 60], [40, 70, 200], [220, 180, 30], [150, 50, 170], [30, 170, 180], [110, 110, 110], [240, 120, 40], [20, 30, 80]];
+const COLOURS = [
+  [200, 40, 40], [40, 160, 60], [40, 70, 200], [220, 180, 30], [150, 50, 170],
+  [30, 170, 180], [110, 110, 110], [240, 120, 40], [20, 30, 80],
+];
 const coloured = (index) => COLOURS[index % COLOURS.length];
 const isNear = (seen, wanted) => wanted.every((channel, index) => Math.abs(channel - seen[index]) < 12);
 
 /** Which of the colours the open pages show, away from the fold; 0 for none. */
 async function coloursOf(page) {
   const seen = [];
-  for (const box of await page.locator('.page').evaluateAll((pages) => pages.map((each) => each.getBoundingClientRect().toJSON()))) {
+  for (const element of await page.locator('.page').all()) {
+    const box = await element.boundingBox();
     const colour = await colourAt(page, box.x + box.width * 0.3, box.y + 12);
     seen.push(COLOURS.findIndex((wanted) => isNear(colour, wanted)) + 1);
   }
@@ -56,7 +60,8 @@ describe('a book of other shapes', () => {
   });
 
   it('keeps the shape of each page, at the fold, and opens a double page over both sides', async () => {
-    const sizes = [PORTRAIT, PORTRAIT, { width: 200, height: 400 }, { width: 600, height: 400 }, { width: 300, height: 300 }, PORTRAIT, PORTRAIT];
+    const [slip, double, square] = [{ width: 200, height: 400 }, { width: 600, height: 400 }, { width: 300, height: 300 }];
+    const sizes = [PORTRAIT, PORTRAIT, slip, double, square, PORTRAIT, PORTRAIT];
     const book = quick(sizes.map((size, index) => ({ ...size, colour: coloured(index) })));
     const page = await openBook(browser, book);
     await openPages(page);
@@ -91,7 +96,8 @@ describe('a book of other shapes', () => {
       const small = quick(COLOURS.slice(0, FILES).map((colour) => ({ ...PORTRAIT, colour })));
       const pages = Array.from({ length: 1000 }, (_, index) => (
         { number: index + 1, label: String(index + 1), image: `files/page/${1 + (index % FILES)}.jpg`, ...PORTRAIT, links: [] }));
-      const outline = Array.from({ length: 200 }, (_, index) => ({ title: `Chapter ${index + 1}`, page: 5 * index + 1, place: 5 * index + 1, items: [] }));
+      const chapterAt = (place) => ({ title: `Chapter at ${place}`, page: place, place, items: [] });
+      const outline = Array.from({ length: 200 }, (_, index) => chapterAt(5 * index + 1));
       const data = { version: 2, textStarts: [], pages, outline };
       book = kept(changedBook(small, { files: { 'files/search/book.js': `var bookData = ${JSON.stringify(data)};\n` } }));
     });

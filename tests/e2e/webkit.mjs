@@ -10,7 +10,8 @@ const LEFT_BUTTON = 0;
 /** Starts Debian's WebKit on a screen of its own, and speaks the W3C's WebDriver protocol with it. */
 export async function launchWebKit() {
   const port = await freePort();
-  const driver = spawn('xvfb-run', ['-a', '-s', '-screen 0 1400x1000x24', DRIVER, `--port=${port}`], { detached: true, stdio: 'ignore' });
+  const screen = ['-a', '-s', '-screen 0 1400x1000x24'];
+  const driver = spawn('xvfb-run', [...screen, DRIVER, `--port=${port}`], { detached: true, stdio: 'ignore' });
   const ended = once(driver, 'exit');
   // It starts other programs, which all belong to its group.
   const stop = () => (process.kill(-driver.pid), ended);
@@ -69,7 +70,8 @@ async function openSession(port, stop) {
     open: (url) => call('POST', '/url', { url }),
     resize: (width, height) => call('POST', '/window/rect', { width, height }),
     picture: async () => Buffer.from(await call('GET', '/screenshot'), 'base64'),
-    press: (key) => act({ type: 'key', id: 'keys', actions: [{ type: 'keyDown', value: KEYS[key] }, { type: 'keyUp', value: KEYS[key] }] }),
+    press: (key) =>
+      act({ type: 'key', id: 'keys', actions: ['keyDown', 'keyUp'].map((type) => ({ type, value: KEYS[key] })) }),
     hold: ([x, y], [toX, toY]) =>
       mouse(
         { type: 'pointerMove', x, y },

@@ -18,7 +18,8 @@ addEventListener('unhandledrejection', function (event) { troubles.push(String(e
 const openPages = () => {
   const shown = [...document.querySelectorAll('.page')].map((each) => each.dataset.place);
   const drawn = [...document.querySelectorAll('.side:not([hidden])')].map((side) => side.dataset.drawn);
-  return document.querySelector('.air').hidden && shown.length > 0 && shown.every((place) => drawn.includes(place)) && shown.join();
+  const isDrawn = shown.length > 0 && shown.every((place) => drawn.includes(place));
+  return document.querySelector('.air').hidden && isDrawn && shown.join();
 };
 const otherPages = (old) => {
   const shown = [...document.querySelectorAll('.page')].map((each) => each.dataset.place).join();
