@@ -7,8 +7,8 @@ import type { Ui } from './ui.ts';
 export function makeAutoTurn({ reader, root, say, signal }: Ui): HTMLButtonElement {
   let timer = 0;
   let isOn = false;
-  let touches = 0;
-  const isBusy = () => touches > 0 || document.hidden || focusIsElsewhere(root, tool);
+  const touches = new Set<number>(); // pointers that are down
+  const isBusy = () => touches.size > 0 || document.hidden || focusIsElsewhere(root, tool);
   const wait = () => {
     clearTimeout(timer);
     if (isOn) timer = window.setTimeout(step, reader.settings.autoTurnSeconds * 1000);
@@ -26,16 +26,11 @@ export function makeAutoTurn({ reader, root, say, signal }: Ui): HTMLButtonEleme
   const tool = makeTool('play', say('autoTurn'), () => turnOn(!isOn));
   setPressed(tool, false);
   reader.on('settled', wait);
-  root.addEventListener('pointerdown', () => touches++, { signal });
-  for (const name of ['pointerup', 'pointercancel'] as const)
-    window.addEventListener(
-      name,
-      () => {
-        touches = Math.max(touches - 1, 0);
-        wait();
-      },
-      { signal },
-    );
+  root.addEventListener('pointerdown', ({ pointerId }) => touches.add(pointerId), { signal });
+  const lift = ({ pointerId }: PointerEvent) => touches.delete(pointerId) && wait();
+  for (const name of ['pointerup', 'pointercancel'] as const) window.addEventListener(name, lift, { signal });
+  // A menu or another window may have seen a mouse button go up.
+  window.addEventListener('pointermove', (event) => event.buttons === 0 && lift(event), { signal });
   signal.addEventListener('abort', () => turnOn(false));
   return tool;
 }

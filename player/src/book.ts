@@ -46,6 +46,8 @@ export interface BookData {
 
 export interface Book {
   readonly pages: readonly Page[]; // a page's place is its position here, from 1
+  /** Without it all pages are taken to have the size of the first, which is in points then. */
+  readonly hasPageList: boolean;
   readonly outline: readonly OutlineItem[];
   readonly textStarts: readonly number[]; // the first place of each text file (bookTexts.ts)
   readonly shape: number; // width over height of a leaf
@@ -57,7 +59,7 @@ const WIDE_PAGE = 1.3;
 export function readBook(config: BookConfig, data: BookData | undefined): Book {
   const known = isOn(config.readerData) && data?.version === 2;
   const { pages, outline, textStarts } = known ? data : { pages: plainPages(config), outline: [], textStarts: [] };
-  return { pages, outline, textStarts, shape: leafShape(pages, config) };
+  return { pages, hasPageList: known, outline, textStarts, shape: leafShape(pages, config) };
 }
 
 export const isOn = (value: unknown): boolean => /^(yes|true|show|enable|1)$/i.test(String(value));
@@ -80,14 +82,15 @@ function plainPages(config: BookConfig): Page[] {
 
 /** The shape that most pages have; with none of known size, the one that is configured. */
 function leafShape(pages: readonly Page[], config: BookConfig): number {
-  const counts = new Map<string, number>();
+  const alike = new Map<string, { count: number; shape: number }>();
   for (const page of pages)
     if (page.width > 0 && page.height > 0) {
-      const shape = (page.width / page.height).toFixed(2);
-      counts.set(shape, (counts.get(shape) ?? 0) + 1);
+      const shape = page.width / page.height;
+      const others = alike.get(shape.toFixed(2));
+      alike.set(shape.toFixed(2), { count: (others?.count ?? 0) + 1, shape: others?.shape ?? shape });
     }
-  const [commonest] = [...counts].sort((one, other) => other[1] - one[1]);
-  if (commonest) return Number(commonest[0]);
+  const [commonest] = [...alike.values()].sort((one, other) => other.count - one.count);
+  if (commonest) return commonest.shape;
   const [width, height] = [positive(config.pageWidth), positive(config.pageHeight)];
   return width && height ? width / height : 3 / 4;
 }

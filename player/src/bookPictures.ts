@@ -3,6 +3,7 @@ import type { Book } from './book.ts';
 import { putCanvas } from './canvas.ts';
 import { type FaceSource, type Paper, paintFace } from './facePainter.ts';
 import type { Box, Size } from './geometry.ts';
+import { PictureFiles } from './pictureFiles.ts';
 import { type PictureRequest, Pictures } from './pictures.ts';
 
 /** Few, because a canvas that stays keeps its pixels itself. */
@@ -10,6 +11,7 @@ const MOST_BITMAPS = 4;
 
 /** The pictures of a book's pages, on canvases that show a whole page each. */
 export class BookPictures {
+  readonly files: PictureFiles;
   readonly pictures: Pictures;
   readonly source: FaceSource;
 
@@ -20,14 +22,14 @@ export class BookPictures {
     standIn: (place: number) => CanvasImageSource | undefined,
     /** A page's picture came, or could not be loaded. */
     changed: (place: number) => void,
+    mostBitmaps = MOST_BITMAPS,
   ) {
     const page = (place: number) => book.pages[place - 1];
-    this.pictures = new Pictures(
-      (place) => (page(place)?.width === 0 ? '' : (page(place)?.image ?? '')),
-      (place) => ({ width: page(place)?.width ?? 0, height: page(place)?.height ?? 0 }),
-      changed,
-      MOST_BITMAPS,
+    this.files = new PictureFiles(
+      (place) => page(place)!.image,
+      (place) => (book.hasPageList ? page(place) : undefined),
     );
+    this.pictures = new Pictures(this.files, changed, mostBitmaps);
     this.source = {
       picture: (place) => this.pictures.get(place) ?? standIn(place),
       shape: (place) => this.shapeOf(place),
@@ -42,12 +44,15 @@ export class BookPictures {
   }
 
   hasFailed(place: number): boolean {
-    return this.book.pages[place - 1]?.width === 0 || this.pictures.hasFailed(place);
+    const hasNoFile = this.book.hasPageList && this.book.pages[place - 1]?.width === 0;
+    return hasNoFile || this.pictures.hasFailed(place);
   }
 
   /** Asks for pages that exist, at the sizes of their boxes in CSS pixels; most urgent first. */
   want(places: readonly number[], seen: (place: number) => boolean, sizeOf: (place: number) => Size): void {
-    const wanted = [...new Set(places)].filter((place) => place >= 1 && place <= this.book.pages.length);
+    const hasFile = (place: number) => (this.book.pages[place - 1]?.width ?? 0) > 0 || !this.book.hasPageList;
+    const exists = (place: number) => place >= 1 && place <= this.book.pages.length;
+    const wanted = [...new Set(places)].filter((place) => exists(place) && hasFile(place));
     const request = (place: number): PictureRequest => {
       const { width, height } = sizeOf(place);
       const size = { width: Math.round(width * devicePixelRatio), height: Math.round(height * devicePixelRatio) };
@@ -57,7 +62,10 @@ export class BookPictures {
   }
 
   paint(canvas: HTMLCanvasElement, place: number, box: Box): void {
-    putCanvas(canvas, box, devicePixelRatio);
+    const { width: pixels } = this.book.pages[place - 1]!;
+    // No more than the picture has.
+    const isKnown = this.book.hasPageList && pixels > 0;
+    putCanvas(canvas, box, isKnown ? Math.min(devicePixelRatio, pixels / box.width) : devicePixelRatio);
     canvas.dataset.drawn = this.pictures.get(place) ? String(place) : '';
     const context = canvas.getContext('2d')!;
     context.setTransform(canvas.width / box.width, 0, 0, canvas.height / box.height, 0, 0);

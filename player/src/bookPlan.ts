@@ -26,11 +26,12 @@ export class BookPlan {
   constructor(
     private readonly book: Book,
     private readonly options: PlanOptions,
-    space: Size,
+    readonly space: Size,
     margin: Size,
     mode: Mode,
   ) {
-    this.layout = layoutBook(space, margin, book.shape, mode, options.rightToLeft);
+    const isSheet = book.pages.length === 1 && !isWide(book.pages[0], book.shape);
+    this.layout = layoutBook(space, margin, book.shape, isSheet && mode === 'auto' ? 'single' : mode, options.rightToLeft);
     this.spreads = arrange({
       pageCount: book.pages.length,
       double: this.layout.double,
@@ -88,6 +89,13 @@ export class BookPlan {
   pageSize(place: number): Size {
     const wide = this.layout.double && isWide(this.book.pages[place - 1], this.book.shape);
     return pictureBox(this.layout.leaf, { place, part: wide ? 'start' : 'whole' }, 'none', this.shapeOf(place));
+  }
+
+  /** Pixels of a canvas to a CSS pixel: those of the screen, but no more than the page's picture has. */
+  pixelRatioOf(face: Face | undefined): number {
+    const { width } = this.book.pages[(face?.place ?? 0) - 1] ?? { width: 0 };
+    const isKnown = this.book.hasPageList && face && width > 0;
+    return isKnown ? Math.min(devicePixelRatio, width / this.pageSize(face.place).width) : devicePixelRatio;
   }
 
   /** Where the other side of a leaf is not seen, because there is one page at a time, it has no face. */

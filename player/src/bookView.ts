@@ -17,7 +17,7 @@ import { stiffnessOf } from './spring.ts';
 import { marginOf, onOtherSize, sizeOf } from './stageSize.ts';
 import { type FlyingLeaf, Turning } from './turning.ts';
 import type { View, ViewEvents } from './view.ts';
-import { keptInSight, NO_ZOOM, type Zoom } from './zoom.ts';
+import { keptInSight, middleOf, NO_ZOOM, type Zoom, zoomOn } from './zoom.ts';
 
 export interface ViewOptions {
   readonly mode: Mode;
@@ -31,6 +31,7 @@ export interface ViewOptions {
   readonly wheelTurns: boolean;
 }
 
+const MOST_BITMAPS = 10;
 /** Spreads to be loaded too, from the open one. Who only opens a book may never turn a page. */
 const NEAR_AT_FIRST = [1, -1];
 const NEAR_AFTER_A_TURN = [1, 2, -1];
@@ -62,9 +63,9 @@ export class BookView implements View {
     place: number,
   ) {
     this.mode = options.mode;
-    this.pictures = new BookPictures(book, options.paper, options.standIn, (at) => this.pictured(at));
+    this.pictures = new BookPictures(book, options.paper, options.standIn, (at) => this.pictured(at), MOST_BITMAPS);
     this.leaves = new FlyingLeaves(this.pictures.source, options.paper, options.rightToLeft);
-    this.sharp = new SharpView(this.pictures.pictures);
+    this.sharp = new SharpView(this.pictures.files);
     this.edges = new PageEdges((fraction) => events.jumpAsked(Math.ceil(fraction * book.pages.length)));
     if (options.pageEdges) this.sheet.append(this.edges.start, this.edges.end);
     const { start, end } = this.sides.canvases;
@@ -129,6 +130,13 @@ export class BookView implements View {
     this.tellTurned();
   }
 
+  reveal(place: number, top = 0): void {
+    const page = this.placedPages().find((placed) => placed.place === place);
+    if (!page || this.zoom.scale <= 1) return;
+    const seen = { ...page.picture, x: page.picture.x + this.plan.shiftAt(this.turning.destination) };
+    this.setZoom(zoomOn(this.zoom.scale, { x: 0.5, y: top }, seen, sizeOf(this.host)));
+  }
+
   setMode(mode: Mode): void {
     this.mode = mode;
     this.arrangeAt(this.place);
@@ -162,6 +170,7 @@ export class BookView implements View {
   }
 
   hold(step: 1 | -1, pointer: Point): FlyingLeaf | undefined {
+    this.sheetPlace.rest();
     return this.turning.hold(step, pointer);
   }
 
@@ -203,10 +212,20 @@ export class BookView implements View {
 
   private tellTurned(): void {
     const { destination } = this.turning;
-    if (destination !== this.told) this.heading = destination > this.told ? 1 : -1;
+    if (destination === this.told) return;
+    this.heading = destination > this.told ? 1 : -1;
     this.told = destination;
-    this.sheetPlace.move(this.plan.shiftAt(destination), this.reducedMotion ? 0 : this.options.turnSeconds);
+    this.moveSheet();
     this.events.turned(this.places);
+  }
+
+  /** A closed book lies in the middle, an enlarged one shows no more of what lies around it than it must. */
+  private moveSheet(): void {
+    const { destination } = this.turning;
+    const isWhole = this.zoom.scale === 1;
+    const zoom = isWhole ? NO_ZOOM : keptInSight(this.zoom, this.plan.openPart(destination), sizeOf(this.host));
+    this.sheetPlace.place(zoom, this.plan.shiftAt(destination), this.reducedMotion ? 0 : this.options.turnSeconds);
+    if (!isWhole) this.events.zoomed(zoom);
   }
 
   /** A cross-fade instead of a turn. */
@@ -227,16 +246,27 @@ export class BookView implements View {
   }
 
   private arrangeAt(place: number): void {
-    const space = sizeOf(this.host);
-    this.plan = new BookPlan(this.book, this.options, space, marginOf(this.host), this.mode);
+    const look = this.look();
+    this.plan = new BookPlan(this.book, this.options, sizeOf(this.host), marginOf(this.host), this.mode);
     this.startTurning(this.plan.spreadOf(place));
     // What takes longest is under way before anything is drawn.
     this.wantPictures();
     for (const side of SIDES) this.sides.place(side, this.plan.sideBox(side));
-    this.sheetPlace.move(this.plan.shiftAt(this.turning.destination));
-    this.setZoom(NO_ZOOM);
+    this.sheetPlace.place(NO_ZOOM, this.plan.shiftAt(this.turning.destination));
+    this.setZoom(look ? this.zoomOnOpen(look.scale, look.at) : NO_ZOOM);
     this.leaves.clear();
     this.paintSides();
+  }
+
+  /** Of an enlarged book, how much and where it is enlarged, in fractions of what lies open. */
+  private look(): { scale: number; at: Point } | undefined {
+    if (!this.plan || this.zoom.scale <= 1) return undefined;
+    const open = this.plan.openPart(this.turning.destination);
+    return { scale: this.zoom.scale, at: middleOf(this.zoom, open, this.plan.space) };
+  }
+
+  private zoomOnOpen(scale: number, at: Point): Zoom {
+    return zoomOn(scale, at, this.plan.openPart(this.turning.destination), sizeOf(this.host));
   }
 
   private tell(): void {
@@ -291,7 +321,7 @@ export class BookView implements View {
     const seen = places([lowest, highest, destination, ...leaves.map((leaf) => leaf.to)]);
     const near = this.hasTurned ? NEAR_AFTER_A_TURN : NEAR_AT_FIRST;
     this.pictures.want(
-      [...seen, ...places(near.map((step) => destination + step))],
+      [...new Set([...seen, ...places(near.map((step) => destination + step))])].slice(0, MOST_BITMAPS),
       (place) => seen.includes(place),
       (place) => this.plan.pageSize(place),
     );
@@ -312,7 +342,8 @@ export class BookView implements View {
   private paintSide(side: Side, face: Face | undefined): void {
     const { source, pictures } = this.pictures;
     this.sides.canvases[side].dataset.drawn = face && pictures.get(face.place) ? String(face.place) : '';
-    this.sides.show(side, face, face && source.picture(face.place), (context, leaf) =>
+    const ratio = this.plan.pixelRatioOf(face);
+    this.sides.show(side, face, face && source.picture(face.place), ratio, (context, leaf) =>
       paintFace(context, leaf, face, this.plan.hingeOf(side), source, this.options.paper),
     );
   }

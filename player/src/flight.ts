@@ -79,7 +79,7 @@ export class Flight<Mover> {
       return;
     }
     const goesOn = this.leaves.every((leaf) => leaf.target === (spread > here ? 1 : 0));
-    if (!goesOn) this.settle(here);
+    if (!goesOn || this.isFull) this.settle(here);
     this.launch(here, spread);
   }
 
@@ -89,8 +89,8 @@ export class Flight<Mover> {
     const here = this.landing;
     const neighbour = here + step;
     if (neighbour < 0 || neighbour >= this.spreadCount) return undefined;
-    const leaf = this.flyingTowards(here, step) ?? this.launch(here, neighbour);
-    leaf.held = true;
+    const leaf = this.flyingTowards(here, step) ?? (this.isFull ? undefined : this.launch(here, neighbour));
+    if (leaf) leaf.held = true;
     return leaf;
   }
 
@@ -133,9 +133,13 @@ export class Flight<Mover> {
     return this.leaves.find((leaf) => (step > 0 ? leaf.from : leaf.to) === spread);
   }
 
+  private get isFull(): boolean {
+    return this.leaves.length >= MOST_IN_THE_AIR;
+  }
+
   private mayLaunch(step: number): boolean {
     return (
-      this.leaves.length < MOST_IN_THE_AIR &&
+      !this.isFull &&
       this.sinceLaunch >= LAUNCH_INTERVAL_SECONDS &&
       this.leaves.every((leaf) => leaf.target === (step > 0 ? 1 : 0))
     );

@@ -67,7 +67,7 @@ export class FlyingLeaves {
   private face(plan: BookPlan, face: Face | undefined, side: Side): PaintedFace {
     const key = `${side} ${face?.place} ${face?.part}`;
     const picture = face && this.source.picture(face.place);
-    return this.faces.painted(key, picture, plan.layout.leaf, devicePixelRatio, (context, leaf) => {
+    return this.faces.painted(key, picture, plan.layout.leaf, plan.pixelRatioOf(face), (context, leaf) => {
       if (this.rightToLeft) context.transform(-1, 0, 0, 1, leaf.width, 0);
       paintFace(context, leaf, face, plan.hingeOf(side), this.source, this.paper);
     });

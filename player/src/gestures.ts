@@ -50,6 +50,8 @@ export class Gestures {
     element.addEventListener('pointermove', (event) => this.move(event));
     element.addEventListener('pointerup', (event) => this.up(event));
     element.addEventListener('pointercancel', (event) => this.lost(event));
+    // The browser's own dragging of a link would take the pointer away.
+    element.addEventListener('dragstart', (event) => event.preventDefault());
     element.addEventListener('lostpointercapture', (event) => {
       // A finger is captured by what it touched first, which loses it when the element takes it over.
       if (event.target === element) this.lost(event);
@@ -67,6 +69,8 @@ export class Gestures {
   private move(event: PointerEvent): void {
     const tracked = this.pointers.get(event.pointerId);
     if (!tracked) return;
+    // It was let go where the element could not see it.
+    if (event.pointerType === 'mouse' && event.buttons === 0) return this.lost(event);
     const sample = { at: this.place(event), time: event.timeStamp };
     tracked.samples = [...tracked.samples.filter(({ time }) => sample.time - time < VELOCITY_MILLISECONDS), sample];
     if (this.state === 'pinching') this.pinch();

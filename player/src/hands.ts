@@ -11,12 +11,30 @@ const SWIPE_GAIN = 2;
 /** What hands do to the book: turn its leaves, beside what they do to every view. */
 export class Hands extends ZoomingHands<BookView> {
   tap(at: Point): void {
-    const { x, y } = this.view.leafPoint(at);
-    if (this.view.zoom.scale !== 1 || y < 0 || y > 1) return;
+    const step = this.edgeAt(at);
+    if (step) this.view.turn(step);
+  }
+
+  /** Two quick taps at an edge are two turns; beside the book there is nothing to enlarge. */
+  override doubleTap(at: Point): void {
+    const step = this.edgeAt(at);
+    if (step) this.view.turn(step);
+    else if (this.view.zoom.scale !== 1 || this.isOnBook(at)) super.doubleTap(at);
+  }
+
+  /** To which side a tap at a point turns; 0 elsewhere, and while the book is larger than its stage. */
+  private edgeAt(at: Point): 1 | -1 | 0 {
+    if (this.view.zoom.scale > 1 || !this.isOnBook(at)) return 0;
+    const { x } = this.view.leafPoint(at);
     const edge = this.view.leafShape * (1 - GRAB_ZONE);
-    const isStart = this.view.isDouble ? x < -edge : x >= 0 && x < this.view.leafShape * GRAB_ZONE;
-    if (x > edge && x <= this.view.leafShape) this.view.turn(1);
-    else if (isStart && x >= -this.view.leafShape) this.view.turn(-1);
+    const isStart = this.view.isDouble ? x < -edge : x < this.view.leafShape * GRAB_ZONE;
+    return x > edge ? 1 : isStart ? -1 : 0;
+  }
+
+  private isOnBook(at: Point): boolean {
+    const { x, y } = this.view.leafPoint(at);
+    const least = this.view.isDouble ? -this.view.leafShape : 0;
+    return y >= 0 && y <= 1 && x >= least && x <= this.view.leafShape;
   }
 
   /** A leaf in flight, the leaf under the finger, or the leaf that a swipe would turn. */

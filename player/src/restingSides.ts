@@ -15,22 +15,25 @@ interface Painted {
 /** The two sides of the book at rest, each a canvas that is painted when something else lies on it. */
 export class RestingSides {
   readonly canvases: Readonly<Record<Side, HTMLCanvasElement>> = { start: makeCanvas('side'), end: makeCanvas('side') };
+  private readonly boxes = new Map<Side, Box>();
   private readonly painted = new Map<Side, Painted>();
 
   place(side: Side, box: Box): void {
-    putCanvas(this.canvases[side], box, devicePixelRatio);
+    this.boxes.set(side, box);
     this.painted.delete(side);
   }
 
-  /** `picture` is what the page is painted with, if there is one yet. */
-  show(side: Side, face: Face | undefined, picture: unknown, paint: FacePainter): void {
+  /** `picture` is what the page is painted with, if there is one yet; `ratio`: pixels to a CSS pixel. */
+  show(side: Side, face: Face | undefined, picture: unknown, ratio: number, paint: FacePainter): void {
     const last = this.painted.get(side);
     if (last && last.picture === picture && isSame(last.face, face)) return;
     this.painted.set(side, { face, picture });
     const canvas = this.canvases[side];
     canvas.hidden = !face;
-    if (!face) return;
-    const [width, height] = [parseFloat(canvas.style.width), parseFloat(canvas.style.height)];
+    const box = this.boxes.get(side);
+    if (!face || !box) return;
+    putCanvas(canvas, box, ratio);
+    const { width, height } = box;
     const context = canvas.getContext('2d')!;
     context.setTransform(canvas.width / width, 0, 0, canvas.height / height, 0, 0);
     paint(context, { width, height });

@@ -64,7 +64,7 @@ export class ScrollView implements View {
     this.told = place;
     this.reading = { place, part: 0 };
     this.pictures = new BookPictures(book, options.paper, options.standIn, (at) => this.pictured(at));
-    this.sharp = new SharpView(this.pictures.pictures);
+    this.sharp = new SharpView(this.pictures.files);
     this.sheet.append(this.sharp.element);
     host.append(this.spacer, this.sheet);
     host.tabIndex = 0; // so that keys scroll it

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 import { makeCanvas, putCanvas } from './canvas.ts';
 import type { Box } from './geometry.ts';
-import type { Pictures } from './pictures.ts';
+import type { PictureFiles } from './pictureFiles.ts';
 import { overlap } from './zoom.ts';
 
 /** Where a page's picture lies in the laid-out book, and which part of that can be seen. */
@@ -24,7 +24,7 @@ export class SharpView {
   private timer = 0;
   private turn = 0; // of the crops that are under way; older ones are dropped when they come
 
-  constructor(private readonly pictures: Pictures) {
+  constructor(private readonly files: Pick<PictureFiles, 'crop'>) {
     this.element.className = 'sharp';
   }
 
@@ -42,14 +42,18 @@ export class SharpView {
 
   private async show(pages: readonly PlacedPage[], seen: Box, scale: number): Promise<void> {
     const turn = ++this.turn;
-    const canvases = await Promise.all(pages.map((page) => this.part(page, seen, scale).catch(() => undefined)));
+    const parts = pages.flatMap((page) => {
+      const visible = overlap(overlap(page.picture, page.window) ?? page.picture, seen);
+      return visible ? [{ page, visible }] : [];
+    });
+    const ratio = pixelRatio(parts.map(({ visible }) => visible), scale);
+    const canvases = await Promise.all(
+      parts.map(({ page, visible }) => this.part(page, visible, ratio).catch(() => undefined)),
+    );
     if (turn === this.turn) this.element.replaceChildren(...canvases.filter((each) => each !== undefined));
   }
 
-  private async part(page: PlacedPage, seen: Box, scale: number): Promise<HTMLCanvasElement | undefined> {
-    const visible = overlap(overlap(page.picture, page.window) ?? page.picture, seen);
-    if (!visible) return undefined;
-    const ratio = pixelRatio(visible, scale);
+  private async part(page: PlacedPage, visible: Box, ratio: number): Promise<HTMLCanvasElement> {
     const { picture } = page;
     const fractions = {
       x: (visible.x - picture.x) / picture.width,
@@ -57,7 +61,7 @@ export class SharpView {
       width: visible.width / picture.width,
       height: visible.height / picture.height,
     };
-    const bitmap = await this.pictures.crop(page.place, fractions, visible.width * ratio);
+    const bitmap = await this.files.crop(page.place, fractions, visible.width * ratio);
     const canvas = makeCanvas('part');
     putCanvas(canvas, visible, bitmap.width / visible.width);
     canvas.getContext('2d')!.drawImage(bitmap, 0, 0, canvas.width, canvas.height);
@@ -66,8 +70,9 @@ export class SharpView {
   }
 }
 
-function pixelRatio(box: Box, scale: number): number {
+/** What is seen of all pages together may have so many pixels. */
+function pixelRatio(boxes: readonly Box[], scale: number): number {
   const most = matchMedia('(pointer: coarse)').matches ? MOST_PIXELS_WITH_FINGERS : MOST_PIXELS;
-  // Both sides of a spread together may have so many.
-  return Math.min(scale * devicePixelRatio, Math.sqrt(most / 2 / (box.width * box.height)));
+  const area = boxes.reduce((sum, { width, height }) => sum + width * height, 0);
+  return Math.min(scale * devicePixelRatio, Math.sqrt(most / area));
 }

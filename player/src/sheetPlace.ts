@@ -17,17 +17,20 @@ export class SheetPlace {
   }
 
   set zoom(zoom: Zoom) {
-    this.zoomed = zoom;
-    this.element.style.transition = '';
-    this.put();
+    this.place(zoom, this.shift);
   }
 
-  /** In CSS pixels before zoom; takes its time when it is given. */
-  move(shift: number, seconds = 0): void {
-    if (shift === this.shift) return;
+  /** The shift is in CSS pixels before zoom; takes its time when it is given. */
+  place(zoom: Zoom, shift: number, seconds = 0): void {
+    this.zoomed = zoom;
     this.shift = shift;
     this.element.style.transition = seconds > 0 ? `transform ${seconds}s cubic-bezier(0.3, 0, 0.2, 1)` : '';
     this.put();
+  }
+
+  /** To where it was to come, at once. */
+  rest(): void {
+    this.element.style.transition = '';
   }
 
   /** A point of the stage, as a point of the sheet. */

@@ -50,7 +50,7 @@ export class SlideView implements View {
     place: number,
   ) {
     this.pictures = new BookPictures(book, options.paper, options.standIn, (at) => this.pictured(at));
-    this.sharp = new SharpView(this.pictures.pictures);
+    this.sharp = new SharpView(this.pictures.files);
     this.motion = new SlideMotion(book.pages.length, place, stiffnessOf(options.turnSeconds));
     this.sheet.append(this.sharp.element);
     host.append(this.sheet);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 import type { Page } from './book.ts';
-import { loadSource } from './pictures.ts';
+import { loadSource } from './pictureFiles.ts';
 
 const MOST_HELD = 80;
 const AT_ONCE = 2;

@@ -7,8 +7,11 @@ export class Ticker {
   private request = 0;
   private last = 0;
 
-  /** The step answers whether another one is wanted. */
-  constructor(private readonly step: (seconds: number) => boolean) {}
+  /**
+   * The step answers whether another one is wanted. `elapsed` is the time since the frame before, in
+   * seconds, 0 for the first one; `seconds` is how far the motion is to go on.
+   */
+  constructor(private readonly step: (seconds: number, elapsed: number) => boolean) {}
 
   wake(): void {
     if (this.request) return;
@@ -16,10 +19,16 @@ export class Ticker {
     this.request = requestAnimationFrame((now) => this.tick(now));
   }
 
+  stop(): void {
+    cancelAnimationFrame(this.request);
+    this.request = 0;
+  }
+
   private tick(now: number): void {
-    const seconds = this.last ? (now - this.last) / 1000 : FIRST_STEP_SECONDS;
+    const elapsed = this.last ? (now - this.last) / 1000 : 0;
     this.last = now;
     this.request = 0;
-    if (this.step(Math.min(seconds, LONGEST_STEP_SECONDS))) this.request = requestAnimationFrame((next) => this.tick(next));
+    const goesOn = this.step(Math.min(elapsed || FIRST_STEP_SECONDS, LONGEST_STEP_SECONDS), elapsed);
+    if (goesOn && !this.request) this.request = requestAnimationFrame((next) => this.tick(next));
   }
 }

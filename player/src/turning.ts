@@ -3,6 +3,7 @@ import { Flight, type Leaf } from './flight.ts';
 import type { Point, Size } from './geometry.ts';
 import { Governor, type Quality } from './governor.ts';
 import { LeafMotion } from './leafMotion.ts';
+import { Ticker } from './ticker.ts';
 
 export type FlyingLeaf = Leaf<LeafMotion>;
 
@@ -11,18 +12,19 @@ export interface TurningEvents {
   frame(quality: Quality): void;
   /** A leaf was launched or landed: other pages are seen or will be. */
   changed(): void;
-  settled(spread: number): void;
+  settled(): void;
 }
 
-const LONGEST_STEP_SECONDS = 0.05; // after a pause the leaf goes on from where it was
-const FIRST_STEP_SECONDS = 1 / 60;
+/** A finger that rests for so long on a held leaf needs no more frames. */
+const REST_MILLISECONDS = 100;
 
 /** Moves leaves frame by frame, and asks for no frame while nothing moves. */
 export class Turning {
   private readonly flight: Flight<LeafMotion>;
   private readonly governor = new Governor();
-  private request = 0;
-  private last = 0;
+  private readonly ticker = new Ticker((seconds, elapsed) => this.step(seconds, elapsed));
+  private isChanged = false; // since the frame before
+  private lastChange = 0;
   private shown = '';
 
   constructor(
@@ -105,29 +107,29 @@ export class Turning {
 
   /** Leaves the leaves where they are, for good. */
   stop(): void {
-    cancelAnimationFrame(this.request);
+    this.ticker.stop();
   }
 
   /** Asks for a frame; needed from outside when what is drawn has changed and not where it lies. */
   wake(): void {
-    if (this.request) return;
-    this.last = 0;
-    this.request = requestAnimationFrame((now) => this.tick(now));
+    this.isChanged = true;
+    this.lastChange = performance.now();
+    this.ticker.wake();
   }
 
-  private tick(now: number): void {
-    const seconds = this.last ? (now - this.last) / 1000 : FIRST_STEP_SECONDS;
-    this.last = now;
-    this.request = 0;
-    this.governor.frame(seconds);
-    this.advance(Math.min(seconds, LONGEST_STEP_SECONDS));
+  private step(seconds: number, elapsed: number): boolean {
+    this.governor.frame(elapsed);
+    const isHeld = this.flight.isMoving && this.flight.leaves.every((leaf) => leaf.held);
+    // Frames go on for a while under a finger, so that it is seen whether they come late.
+    if (isHeld && !this.isChanged) return performance.now() - this.lastChange < REST_MILLISECONDS;
+    this.isChanged = false;
+    this.advance(seconds);
     this.tellOfChange();
     this.events.frame(this.governor.quality);
-    if (!this.flight.isMoving) {
-      this.governor.rest();
-      this.events.settled(this.flight.lowest);
-    } else if (!this.flight.leaves.every((leaf) => leaf.held))
-      this.request = requestAnimationFrame((next) => this.tick(next));
+    if (this.flight.isMoving) return true;
+    this.governor.rest();
+    this.events.settled();
+    return false;
   }
 
   private advance(seconds: number): void {

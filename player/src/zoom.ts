@@ -46,6 +46,21 @@ function kept(offset: number, scale: number, start: number, length: number, spac
   return clamp(offset, space - (start + length) * scale, -start * scale);
 }
 
+/** What lies in the middle of a space, in fractions of a box. */
+export const middleOf = ({ scale, offset }: Zoom, box: Box, space: Size): Point => ({
+  x: ((space.width / 2 - offset.x) / scale - box.x) / box.width,
+  y: ((space.height / 2 - offset.y) / scale - box.y) / box.height,
+});
+
+/** So that a point of a box, in fractions of it, lies in the middle of a space. */
+export const zoomOn = (scale: number, point: Point, box: Box, space: Size): Zoom => ({
+  scale,
+  offset: {
+    x: space.width / 2 - (box.x + point.x * box.width) * scale,
+    y: space.height / 2 - (box.y + point.y * box.height) * scale,
+  },
+});
+
 /** The part of the laid-out space that is seen. */
 export function seenBox(zoom: Zoom, space: Size): Box {
   return {

@@ -112,7 +112,7 @@ export abstract class ZoomingHands<Kind extends Handled> implements GestureHandl
         const isSideways = Math.abs(pulled.x) > Math.max(SWIPE_PIXELS, Math.abs(pulled.y));
         if (isSideways && Math.abs(moved) < EDGE_PIXELS) this.turnZoomed(-Math.sign(pulled.x));
       },
-      cancel: () => this.view.setZoom(zoom),
+      cancel: () => {},
     };
   }
 
@@ -130,7 +130,7 @@ export abstract class ZoomingHands<Kind extends Handled> implements GestureHandl
     const unit = wheelUnit(event);
     if (event.ctrlKey) zoomByWheel(this.view, event);
     else if (zoom.scale > 1) this.view.setZoom(panBy(zoom, { x: -event.deltaX * unit, y: -event.deltaY * unit }));
-    else this.turnByWheel((event.deltaY || (options.rightToLeft ? -event.deltaX : event.deltaX)) * unit, event.timeStamp);
+    else this.turnByWheel(pushOf(event, options.rightToLeft) * unit, event.timeStamp);
   }
 
   /** One page a push of the wheel, however long a touch pad lets it run on; what runs back is another push. */
@@ -143,6 +143,12 @@ export abstract class ZoomingHands<Kind extends Handled> implements GestureHandl
     this.view.turn(Math.sign(this.wheel));
     this.wheel *= Infinity;
   }
+}
+
+/** Forwards in the book; whichever way the wheel is pushed more, since no push of a touch pad is straight. */
+function pushOf({ deltaX, deltaY }: WheelEvent, rightToLeft: boolean): number {
+  if (Math.abs(deltaY) >= Math.abs(deltaX)) return deltaY;
+  return rightToLeft ? -deltaX : deltaX;
 }
 
 type Zoomable = Pick<Handled, 'host' | 'zoom' | 'setZoom'>;

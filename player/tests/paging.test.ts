@@ -4,7 +4,7 @@ import { test } from 'node:test';
 import { layoutBook } from '../src/layout.ts';
 import { hasArrived, springTo } from '../src/spring.ts';
 import { arrange, placesOf, spreadOf } from '../src/spreads.ts';
-import { keptInSight, MOST_SCALE, NO_ZOOM, panBy, zoomAbout } from '../src/zoom.ts';
+import { keptInSight, middleOf, MOST_SCALE, NO_ZOOM, panBy, zoomAbout, zoomOn } from '../src/zoom.ts';
 
 const MARGIN = { width: 20, height: 10 };
 
@@ -67,6 +67,16 @@ test('a spring reaches its target without passing it, in few frames as in many',
   assert.ok(Math.abs(motion.position.x - inOne.position.x) < 1e-9);
   assert.equal(hasArrived(motion, target, 0.001, 12), false);
   assert.equal(hasArrived(springTo(motion, target, 12, 2), target, 0.001, 12), true);
+});
+
+test('what is looked at stays in the middle of a window of another shape', () => {
+  const [wide, upright] = [{ width: 1200, height: 800 }, { width: 800, height: 1200 }];
+  const [before, after] = [{ x: 100, y: 50, width: 1000, height: 700 }, { x: 0, y: 320, width: 800, height: 560 }];
+  const at = { x: 0.8, y: 0.25 };
+  for (const [box, space] of [[before, wide], [after, upright]] as const) {
+    const found = middleOf(zoomOn(2.5, at, box, space), box, space);
+    assert.ok(Math.hypot(found.x - at.x, found.y - at.y) < 1e-9);
+  }
 });
 
 test('zooming keeps what is under the finger, and the book in sight', () => {

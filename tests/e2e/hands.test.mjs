@@ -74,6 +74,26 @@ describe('the book in hands', () => {
       assert.deepEqual(await openPages(page), [4, 5]);
     });
 
+    it('turns at each of several quick clicks on an edge, and enlarges nothing beside the book', async () => {
+      const { page, at } = await open(quick);
+      await turnWith(page, () => page.mouse.click(...at(0.97, 0.5), { clickCount: 3, delay: 20 }));
+      assert.deepEqual(await openPages(page), [9]);
+      await page.mouse.dblclick(4, 400);
+      assert.equal((await zoomOf(page)).scale, 1);
+    });
+
+    it('lets a leaf fall that was let go outside the window', async () => {
+      const { page, at } = await open(quick);
+      await page.mouse.move(...at(0.98, 0.5));
+      await page.mouse.down();
+      // No pointerup: the button went up over something else.
+      await page.locator('.stage').dispatchEvent('pointermove', {
+        pointerId: 1, pointerType: 'mouse', buttons: 0, clientX: at(0.5, 0.5)[0], clientY: at(0.5, 0.5)[1], bubbles: true,
+      });
+      await page.waitForFunction(() => document.querySelector('.air').hidden);
+      assert.deepEqual(await openPages(page), [4, 5]);
+    });
+
     it('turns one page with a push of the wheel, and zooms about itself with Control', async () => {
       const { page, at } = await open(quick);
       const [x, y] = at(0.25, 0.5);
