@@ -96,13 +96,17 @@ export class Session {
     return metrics.find(({ name }) => name === 'JSHeapUsedSize').value / 2 ** 20;
   }
 
-  /** Processor seconds of all the browser's processes, and their memory with shared pages split between them. */
+  /**
+   * Processor seconds of the processes that run and draw pages, and the memory of all of the browser's, with shared
+   * pages split between them. The browser's own process keeps house, for an empty page too.
+   */
   async processes() {
     const protocol = await this.browser.newBrowserCDPSession();
     const { processInfo } = await protocol.send('SystemInfo.getProcessInfo');
     await protocol.detach();
     const sum = (values) => values.reduce((total, value) => total + value, 0);
-    return { seconds: sum(processInfo.map(({ cpuTime }) => cpuTime)), megabytes: sum(processInfo.map(({ id }) => ownMemory(id))) };
+    const ofPages = processInfo.filter(({ type }) => ['renderer', 'GPU'].includes(type));
+    return { seconds: sum(ofPages.map(({ cpuTime }) => cpuTime)), megabytes: sum(processInfo.map(({ id }) => ownMemory(id))) };
   }
 }
 
