@@ -11,7 +11,7 @@ import { gzipSync } from 'node:zlib';
 
 const PLAYER = fileURLToPath(new URL('../player/', import.meta.url));
 const LICENCE = '/* Leafcast player. SPDX-License-Identifier: MIT */';
-const KILOBYTE = 1000;
+const KILOBYTE = 1024; // as in the benchmark
 // The configuration that is appended to the script is not written for strict mode.
 const tsconfigRaw = { compilerOptions: { alwaysStrict: false, target: 'es2020' } };
 // A page that the player is added to may be in any encoding; a book's own page is in UTF-8.

@@ -4,7 +4,8 @@ import type { Curl } from './curl.ts';
 import type { Box } from './geometry.ts';
 import type { Quality } from './governor.ts';
 import type { Layout } from './layout.ts';
-import { type Ground, type LeafFaces, paintLeaf } from './leafPainter.ts';
+import { type LeafFaces, paintLeaf } from './leafPainter.ts';
+import type { Ground } from './leafShadow.ts';
 import { paintStiffLeaf } from './stiffLeaf.ts';
 import { overlap } from './zoom.ts';
 

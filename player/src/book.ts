@@ -57,9 +57,15 @@ export interface Book {
 const WIDE_PAGE = 1.3;
 
 export function readBook(config: BookConfig, data: BookData | undefined): Book {
-  const known = isOn(config.readerData) && data?.version === 2;
+  const known = isOn(config.readerData) && isWhole(data);
   const { pages, outline, textStarts } = known ? data : { pages: plainPages(config), outline: [], textStarts: [] };
   return { pages, hasPageList: known, outline, textStarts, shape: leafShape(pages, config) };
+}
+
+/** A file that was changed by hand, or is another writer's, is as good as none. */
+function isWhole(data: BookData | undefined): data is BookData {
+  if (data?.version !== 2 || ![data.pages, data.outline, data.textStarts].every(Array.isArray)) return false;
+  return data.pages.every((page) => typeof page?.image === 'string' && Array.isArray(page.links));
 }
 
 export const isOn = (value: unknown): boolean => /^(yes|true|show|enable|1)$/i.test(String(value));

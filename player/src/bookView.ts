@@ -51,6 +51,7 @@ export class BookView implements View {
   private turning!: Turning; // made with the first plan
   private mode: Mode;
   private reducedMotion = false;
+  private unfollow: (() => void) | undefined; // the size of the stage
   private hasTurned = false;
   private heading: 1 | -1 = 1; // of the last turn
   private told = 0; // the spread that was last said to lie open
@@ -76,7 +77,7 @@ export class BookView implements View {
 
   start(): void {
     this.tell();
-    onOtherSize(this.host, () => {
+    this.unfollow = onOtherSize(this.host, () => {
       this.arrangeAt(this.place);
       this.tell();
     });
@@ -113,6 +114,11 @@ export class BookView implements View {
 
   setReducedMotion(reduced: boolean): void {
     this.reducedMotion = reduced;
+  }
+
+  canTurn(step: number): boolean {
+    const spread = this.turning.destination + step;
+    return spread >= 0 && spread <= this.plan.lastSpread;
   }
 
   turn(count: number): boolean {
@@ -191,6 +197,17 @@ export class BookView implements View {
 
   retry(place: number): void {
     this.pictures.pictures.retry(place);
+  }
+
+  destroy(): void {
+    this.unfollow?.();
+    this.turning.stop();
+    this.sharp.clear();
+    this.pictures.pictures.close();
+  }
+
+  hasPicture(place: number): boolean {
+    return this.pictures.pictures.has(place);
   }
 
   hasFailed(place: number): boolean {

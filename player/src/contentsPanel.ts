@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-import { hashOf } from './address.ts';
 import type { OutlineItem } from './book.ts';
-import { create } from './dom.ts';
+import { create, scrollWithin } from './dom.ts';
 import { icon } from './icons.ts';
+import { makePageLink } from './pageLink.ts';
 import type { PanelContent } from './sidePanel.ts';
 import type { Ui } from './ui.ts';
 
@@ -11,8 +11,12 @@ export function contentsPanel(ui: Ui): PanelContent {
   const { reader } = ui;
   const path = pathTo(reader.book.outline, reader.places[reader.places.length - 1] ?? 1);
   const element = create('div', { className: 'panel-body contents' }, branch(ui, reader.book.outline, path));
-  const current = (): HTMLElement | null => element.querySelector('[aria-current]') ?? element.querySelector('a');
-  return { element, focus: () => current()?.focus(), shown: () => current()?.scrollIntoView({ block: 'center' }) };
+  const current = (): HTMLElement | null => element.querySelector<HTMLElement>('[aria-current]') ?? element.querySelector('a');
+  const reveal = () => {
+    const item = current();
+    if (item) scrollWithin(element, item, 0.5);
+  };
+  return { element, focus: () => current()?.focus({ preventScroll: true }), shown: reveal };
 }
 
 /** The items that lead to the last one that starts at or before a place. */
@@ -54,21 +58,14 @@ function entry(ui: Ui, item: OutlineItem, path: readonly OutlineItem[]): HTMLEle
   return [create('div', { className: 'row' }, twist, title), children];
 }
 
-function leader({ reader, names, panel }: Ui, { title, place }: OutlineItem, isCurrent: boolean): HTMLElement {
+function leader({ reader, names, panel, ownsPage }: Ui, { title, place }: OutlineItem, isCurrent: boolean): HTMLElement {
   if (place === 0) return create('span', { className: 'leads-nowhere' }, title);
   const label = create('span', { className: 'number' }, names.label(place));
-  const anchor = create(
-    'a',
-    { href: hashOf(place), 'aria-current': isCurrent ? 'true' : undefined },
-    create('span', {}, title),
-    ' ',
-    label,
-  );
-  anchor.addEventListener('click', (event) => {
-    if (event.ctrlKey || event.metaKey || event.shiftKey) return;
-    event.preventDefault();
+  const link = makePageLink(place, ownsPage, () => {
     panel.makeWay();
     reader.goTo(place);
   });
-  return anchor;
+  link.append(create('span', {}, title), ' ', label);
+  if (isCurrent) link.setAttribute('aria-current', 'true');
+  return link;
 }

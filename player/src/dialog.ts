@@ -10,7 +10,7 @@ interface OpenDialog {
 }
 
 /** Shows a modal dialog; the browser keeps the focus in it and gives it back. */
-export function openDialog({ root, say }: Ui, title: string, body: HTMLElement): OpenDialog {
+export function openDialog({ root, say, signal }: Ui, title: string, body: HTMLElement): OpenDialog {
   const dialog = create('dialog', { className: 'dialog', 'aria-label': title });
   const close = () => dialog.close();
   dialog.append(panelHead(title, say('close'), close), body);
@@ -22,6 +22,7 @@ export function openDialog({ root, say }: Ui, title: string, body: HTMLElement):
   dialog.addEventListener('click', (event) => {
     if (event.target === dialog) close();
   });
+  signal.addEventListener('abort', close, { signal: closed.signal });
   root.append(dialog);
   dialog.showModal();
   return { close, closed: closed.signal };

@@ -17,6 +17,17 @@ export function create<Name extends keyof HTMLElementTagNameMap>(
   return element;
 }
 
+const LEAD_PIXELS = 8;
+
+/**
+ * Scrolls a box, and nothing around it, to an element in it: to its upper edge, or by `part` of the
+ * room that is left towards the lower one.
+ */
+export function scrollWithin(box: HTMLElement, element: HTMLElement, part = 0): void {
+  const above = element.getBoundingClientRect().top - box.getBoundingClientRect().top;
+  box.scrollTop += above - LEAD_PIXELS - (box.clientHeight - element.offsetHeight) * part;
+}
+
 /** Whether keys typed now are meant for a field. */
 export const isField = (target: EventTarget | null): boolean =>
   target instanceof Element && target.closest('input, textarea, select, [contenteditable]') !== null;

@@ -30,11 +30,12 @@ function mount(
 ): EmbeddedBook {
   const { reader, signal, destroy }: MountedBook = mountBook(element, config, data, options);
   if (reader) answerMessages(reader, signal);
+  const shown = () => (signal.aborted ? undefined : reader);
   return {
-    goTo: (place) => reader?.goTo(place),
-    next: () => void reader?.next(),
-    previous: () => void reader?.previous(),
-    on: (name, listener) => reader?.on(name, listener) ?? (() => {}),
+    goTo: (place) => shown()?.goTo(place),
+    next: () => void shown()?.next(),
+    previous: () => void shown()?.previous(),
+    on: (name, listener) => shown()?.on(name, listener) ?? (() => {}),
     destroy,
   };
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-/** Tells listeners of events; the map names each event's argument. */
+/** Tells listeners of events; the map names each event's argument. One that throws is reported and silences no other. */
 export class Emitter<Events extends object> {
   private readonly listeners = new Map<keyof Events, Set<(value: never) => void>>();
 
@@ -11,7 +11,17 @@ export class Emitter<Events extends object> {
     return () => set.delete(listener);
   }
 
+  /** Nobody is told any more. */
+  protected clear(): void {
+    this.listeners.clear();
+  }
+
   protected emit<Name extends keyof Events>(name: Name, value: Events[Name]): void {
-    for (const listener of this.listeners.get(name) ?? []) (listener as (value: Events[Name]) => void)(value);
+    for (const listener of this.listeners.get(name) ?? [])
+      try {
+        (listener as (value: Events[Name]) => void)(value);
+      } catch (error) {
+        reportError(error);
+      }
   }
 }

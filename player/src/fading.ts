@@ -21,6 +21,9 @@ export function fadingPicture(box: Box, parts: readonly Part[]): HTMLCanvasEleme
       pixels(part.box.width),
       pixels(part.box.height),
     );
-  picture.addEventListener('animationend', () => picture.remove());
+  const leave = () => picture.remove();
+  picture.addEventListener('animationend', leave);
+  // A reader's own style may leave no animation that could end.
+  requestAnimationFrame(() => picture.getAnimations().length === 0 && leave());
   return picture;
 }

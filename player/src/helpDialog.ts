@@ -42,5 +42,11 @@ export function openHelpDialog(ui: Ui): void {
     list.append(
       create('div', {}, create('dt', {}, say(name)), create('dd', {}, ...keys.map((key) => create('kbd', {}, key)))),
     );
-  openDialog(ui, say('help'), list);
+  openDialog(ui, say('help'), create('div', {}, list, characterSwitch(ui)));
+}
+
+function characterSwitch({ say, characterKeys }: Ui): HTMLElement {
+  const box = create('input', { type: 'checkbox', checked: characterKeys.areOn });
+  box.addEventListener('change', () => characterKeys.turn(box.checked));
+  return create('div', { className: 'choice key-switch' }, create('label', {}, box, say('characterKeys')));
 }

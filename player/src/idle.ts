@@ -20,5 +20,17 @@ export function inNextFrame(work: () => void): void {
   const timer = window.setTimeout(once, FRAME_MILLISECONDS);
 }
 
+const LONGEST_WORK_MILLISECONDS = 12; // within a frame
+
+/** To be called between parts of long work: lets the browser do something else when it has gone on for long. */
+export function pauseNowAndThen(): () => Promise<void> {
+  let since = performance.now();
+  return async () => {
+    if (performance.now() - since < LONGEST_WORK_MILLISECONDS) return;
+    await new Promise((resolve) => setTimeout(resolve));
+    since = performance.now();
+  };
+}
+
 const canTell = 'requestIdleCallback' in globalThis;
 const laterOn = (work: () => void): number => window.setTimeout(work, A_MOMENT_MILLISECONDS);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+import { isCharacter } from './characterKeys.ts';
 import { isField } from './dom.ts';
 import { openHelpDialog } from './helpDialog.ts';
 import { type Actions, keyName, viewKeys } from './viewKeys.ts';
@@ -8,7 +9,11 @@ import type { Ui } from './ui.ts';
 /** Keys that are pressed on `target` and not meant for a field turn, jump, zoom and open what there is. */
 export function listenToKeys(ui: Ui, target: HTMLElement | Document, openSearch: (() => void) | undefined): void {
   const actions = actionsOf(ui, openSearch);
-  target.addEventListener('keydown', (event) => answer(event as KeyboardEvent, actions), { signal: ui.signal });
+  const hear = (event: Event) => {
+    const isOff = isCharacter((event as KeyboardEvent).key) && !ui.characterKeys.areOn;
+    if (!isOff) answer(event as KeyboardEvent, actions);
+  };
+  target.addEventListener('keydown', hear, { signal: ui.signal });
 }
 
 function answer(event: KeyboardEvent, actions: Actions): void {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 import { type Curl, seenAt, type Strip, strips } from './curl.ts';
 import { scale, type Size } from './geometry.ts';
-import { paintShadowOnGround } from './leafShadow.ts';
+import { type Ground, paintShadowOnGround } from './leafShadow.ts';
 import { besideBack, clippedFrom, type Outline, partOf, path, trace } from './outline.ts';
 
 /** Draws one side of a leaf: the leaf's box from (0, 0), as a reader sees it lying flat. */
@@ -18,12 +18,6 @@ export interface LeafFaces {
   /** The end side, seen before the turn, and the start side, seen after it. */
   readonly front: PaintedFace;
   readonly back: PaintedFace;
-}
-
-/** On which sides other paper lies below, where a shadow can fall. */
-export interface Ground {
-  readonly start: boolean;
-  readonly end: boolean;
 }
 
 export interface PaintQuality {

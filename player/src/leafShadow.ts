@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 import { type Curl, farthestReach, projected } from './curl.ts';
 import { add, dot, length, type Point, scale, type Size, subtract } from './geometry.ts';
-import type { Ground } from './leafPainter.ts';
 import { backPart, band, type Outline, path } from './outline.ts';
+
+/** On which sides other paper lies below, where a shadow can fall. */
+export interface Ground {
+  readonly start: boolean;
+  readonly end: boolean;
+}
 
 const SHADOW_UNDER_LEAF = 0.3;
 

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 import { type BookConfig, isOn } from './book.ts';
+import { isColour, luminance } from './colour.ts';
+import { onResize } from './onResize.ts';
 
 const COLOURS = {
   '--bar': 'toolBarColor',
@@ -38,18 +40,23 @@ export function followSize(root: HTMLElement, signal: AbortSignal): void {
     root.classList.toggle('short', root.clientHeight <= SHORT_PIXELS);
   };
   measure();
-  const observer = new ResizeObserver(measure);
-  observer.observe(root);
-  signal.addEventListener('abort', () => observer.disconnect());
+  signal.addEventListener('abort', onResize(root, measure));
 }
 
-const isColour = (text: string): boolean => /^#[\da-f]{6}$/i.test(text);
+const ATTRIBUTES = ['lang', 'dir', 'data-view', 'data-panel', 'data-tone', 'data-background'];
+const CLASSES = ['leafcast', 'embedded', 'zoomed', 'no-bar', 'no-foot', 'no-turns', 'shadowed', 'narrow', 'short', 'awake'];
+const STYLES = [...Object.keys(COLOURS), 'background-image'];
 
-/** Relative luminance as WCAG defines it, of a colour #rrggbb. */
-function luminance(colour: string): number {
-  const linear = [1, 3, 5].map((at) => {
-    const channel = parseInt(colour.slice(at, at + 2), 16) / 255;
-    return channel <= 0.04045 ? channel / 12.92 : ((channel + 0.055) / 1.055) ** 2.4;
-  });
-  return 0.2126 * linear[0]! + 0.7152 * linear[1]! + 0.0722 * linear[2]!;
+/** Answers how to give an element back what of all this it had. */
+export function rememberLook(root: HTMLElement): () => void {
+  const attributes = ATTRIBUTES.map((name) => [name, root.getAttribute(name)] as const);
+  const classes = CLASSES.map((name) => [name, root.classList.contains(name)] as const);
+  const styles = STYLES.map((name) => [name, root.style.getPropertyValue(name)] as const);
+  return () => {
+    for (const [name, had] of classes) root.classList.toggle(name, had);
+    for (const [name, value] of styles) root.style.setProperty(name, value);
+    for (const [name, value] of attributes)
+      if (value === null) root.removeAttribute(name);
+      else root.setAttribute(name, value);
+  };
 }

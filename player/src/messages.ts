@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 import type { Reader } from './reader.ts';
 
+let answering: AbortSignal | undefined; // aborted when the book that answers is taken down
+
 /**
  * Lets the page around a frame with a book turn it and follow it, by messages. To the frame:
  *
@@ -11,11 +13,13 @@ import type { Reader } from './reader.ts';
  *
  * From it: { leafcast: 'turned' | 'settled', places: [12, 13], pageCount: 200 }.
  *
- * Only the page around it is answered, and events go to the origin that asked for them and to no
- * other. None of the commands can do more than a reader's hand.
+ * Only the page around it is answered, and events go to the origin that asked for them; to any, when
+ * that page is one from a file, which has none that could be named. None of the commands can do more
+ * than a reader's hand. Of several books on one page the one that was there first answers.
  */
 export function answerMessages(reader: Reader, signal: AbortSignal): void {
-  if (window.parent === window) return;
+  if (window.parent === window || answering?.aborted === false) return;
+  answering = signal;
   let listener = '';
   const send = (name: string, places: readonly number[]) => {
     if (listener)
@@ -23,7 +27,6 @@ export function answerMessages(reader: Reader, signal: AbortSignal): void {
   };
   const commands: Readonly<Record<string, (message: Command, origin: string) => void>> = {
     listen: (_, origin) => {
-      // A page from a file has no origin that could be named.
       listener = origin === 'null' ? '*' : origin;
       send('settled', reader.places);
     },

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 import { type BookConfig, type BookData, readBook } from './book.ts';
 import { BookTexts } from './bookTexts.ts';
+import { CharacterKeys } from './characterKeys.ts';
 import { create } from './dom.ts';
 import { makeDots } from './dots.ts';
 import { firstPlace, keepAddress } from './history.ts';
 import { inNextFrame } from './idle.ts';
 import { listenToKeys } from './keys.ts';
-import { colourBrowser, dress, followSize } from './look.ts';
+import { colourBrowser, dress, followSize, rememberLook } from './look.ts';
 import { PageLayer } from './pageLayer.ts';
 import { makePageField } from './pageField.ts';
 import { PageNames } from './pageNames.ts';
@@ -38,35 +39,51 @@ export interface MountedBook {
   /** Nothing when the book has no pages. */
   readonly reader: Reader | undefined;
   readonly signal: AbortSignal;
-  /** Takes all of it off the element again. */
+  /** Takes all of it off the element again, which looks as it did before. */
   destroy(): void;
 }
 
-/** Shows a book in an element that has a size; what the element holds is replaced. */
+/** Of the books that are mounted, by their element: how to take them off. */
+const mounted = new WeakMap<HTMLElement, () => void>();
+
+/** Shows a book in an element that has a size; what the element holds is replaced, another book too. */
 export function mountBook(
   root: HTMLElement,
   config: BookConfig,
   data: BookData | undefined,
   options: MountOptions = {},
 ): MountedBook {
+  mounted.get(root)?.();
   const taken = new AbortController();
+  const restoreLook = rememberLook(root);
   const kind = viewKind(options.view ?? root.dataset.view);
-  const settings = readSettings(config, kind);
+  // The wheel is for the page around the book.
+  const settings = readSettings(options.ownsPage ? config : { wheelTurns: 'NO', ...config }, kind);
   const book = readBook(config, data);
   const say = speak(root, settings, options);
   root.classList.add('leafcast');
+  root.classList.toggle('embedded', !options.ownsPage);
   root.dataset.view = kind;
   dress(root, config);
   if (options.ownsPage) colourBrowser(config);
   followSize(root, taken.signal);
-  const destroy = () => {
+  const takeOff = (reader?: Reader) => () => {
+    if (taken.signal.aborted) return;
+    mounted.delete(root);
     taken.abort();
+    reader?.destroy();
+    if (document.fullscreenElement === root) void document.exitFullscreen();
     root.replaceChildren();
+    restoreLook();
   };
-  const mounted = { reader: undefined, signal: taken.signal, destroy };
+  const given = (reader?: Reader): MountedBook => {
+    const destroy = takeOff(reader);
+    mounted.set(root, destroy);
+    return { reader, signal: taken.signal, destroy };
+  };
   if (book.pages.length === 0) {
     root.replaceChildren(create('p', { className: 'notice', role: 'status' }, say('empty')));
-    return mounted;
+    return given();
   }
   const stage = makeStage(root, settings);
   const reader = new Reader(
@@ -82,7 +99,7 @@ export function mountBook(
     furnish(root, reader, say, options, taken.signal);
     reader.start();
   });
-  return { ...mounted, reader };
+  return given(reader);
 }
 
 function speak(root: HTMLElement, settings: Settings, { ownsPage }: MountOptions): Say {
@@ -104,7 +121,7 @@ function makeStage(root: HTMLElement, { toolbar, shows }: Settings): HTMLElement
   return stage;
 }
 
-function furnish(root: HTMLElement, reader: Reader, say: Say, { ownsPage }: MountOptions, signal: AbortSignal): void {
+function furnish(root: HTMLElement, reader: Reader, say: Say, { ownsPage = false }: MountOptions, signal: AbortSignal): void {
   const { settings, book } = reader;
   const status = create('p', { className: 'spoken', role: 'status', 'aria-live': 'polite' });
   const names = new PageNames(book.pages, say);
@@ -115,10 +132,12 @@ function furnish(root: HTMLElement, reader: Reader, say: Say, { ownsPage }: Moun
     say,
     names,
     texts,
-    layer: new PageLayer(reader, texts, names, say),
+    layer: new PageLayer(reader, texts, names, say, ownsPage),
     thumbnails: reader.thumbnails,
     panel: new SidePanel(root, say),
     sound: new TurnSound(reader, signal),
+    characterKeys: new CharacterKeys(() => localStorage),
+    ownsPage,
     announce: (text) => (status.textContent = text),
     signal,
   };
@@ -134,19 +153,25 @@ function furnish(root: HTMLElement, reader: Reader, say: Say, { ownsPage }: Moun
   root.append(...foot(ui), status);
   announcePages(ui);
   followMotionPreference(reader, signal);
+  reader.on('zoomed', ({ scale }) => root.classList.toggle('zoomed', scale > 1));
   if (reader.kind === 'slide') hideBarsAtRest(ui);
   // What the focus can be on needs a name.
   if (reader.kind === 'scroll') nameStage(stage, say('pages'));
-  if (settings.keyboard) listenToKeys(ui, ownsPage ? document : root, searchOpener(tools));
+  if (settings.keyboard) listenToKeys(ui, ownsPage ? document : root, searchOpener(root, tools));
   if (ownsPage) {
     keepAddress(reader, signal);
     printOpenPages(ui);
   }
 }
 
-function searchOpener(tools: readonly RankedTool[]): (() => void) | undefined {
+function searchOpener(root: HTMLElement, tools: readonly RankedTool[]): (() => void) | undefined {
   const search = tools.find(({ tool }) => tool.classList.contains('search-tool'));
-  return search && (() => search.tool.click());
+  if (!search) return undefined;
+  return () => {
+    const query = root.querySelector<HTMLElement>('.query');
+    if (query) query.focus();
+    else search.tool.click();
+  };
 }
 
 function skipLink({ say, layer }: Ui, target: string): HTMLElement {

@@ -15,11 +15,11 @@ export function makePageField({ reader, say, names, announce }: Ui): HTMLElement
     field.value = names.labels(reader.places);
     field.style.width = `${Math.max(field.value.length, String(reader.pageCount).length) + 3}ch`;
     total.textContent = names.total(reader.places);
-    field.setCustomValidity('');
+    accept(field);
   };
   form.addEventListener('submit', (event) => {
     event.preventDefault();
-    const place = names.find(field.value);
+    const place = names.find(field.value) ?? names.findRange(field.value)?.[0];
     isTyped = !place;
     if (place) reader.goTo(place);
     else refuse(field, say('noSuchPage', field.value), announce);
@@ -32,11 +32,16 @@ export function makePageField({ reader, say, names, announce }: Ui): HTMLElement
   });
   field.addEventListener('input', () => {
     isTyped = true;
-    field.removeAttribute('aria-invalid');
+    accept(field);
   });
   reader.on('turned', show);
   reader.on('settled', show);
   return form;
+}
+
+function accept(field: HTMLInputElement): void {
+  field.removeAttribute('aria-invalid');
+  field.title = '';
 }
 
 function refuse(field: HTMLInputElement, reason: string, announce: (text: string) => void): void {

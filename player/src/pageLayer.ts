@@ -3,8 +3,8 @@ import type { PageLink, TextLine, WordBox } from './book.ts';
 import type { BookTexts } from './bookTexts.ts';
 import { create } from './dom.ts';
 import { icon } from './icons.ts';
-import { hashOf } from './address.ts';
 import type { Box } from './geometry.ts';
+import { makePageLink } from './pageLink.ts';
 import type { PageNames } from './pageNames.ts';
 import type { Reader } from './reader.ts';
 import type { PlacedPage } from './sharpView.ts';
@@ -22,37 +22,45 @@ interface ShownPage {
 }
 
 const SAFE_ADDRESS = /^(https?:|mailto:|tel:)/i;
+/** Text is worth waiting for pictures, which all readers see, but not longer. */
+const TEXT_WAIT_MILLISECONDS = 1000;
+const MOST_MARKS = 100; // on a page; a search for one letter has more hits than anyone looks at
 
 /**
  * What lies over the pictures of the open pages: their text for screen readers, links, marks of a
  * search, and a card where a picture could not be loaded. Pages that are not seen are not there.
  */
 export class PageLayer {
-  private readonly element = create('div', { className: 'pages' });
+  private readonly element = create('div', { className: 'pages', tabIndex: -1 });
   private readonly shown = new Map<number, ShownPage>();
   private marks: readonly Mark[] = [];
   private chosen: Mark | undefined;
-  private focusWanted = 0;
-  private readonly pictured = new Set<number>();
+  private focusWanted = 0; // of a page that was jumped to
+  private textTimer = 0;
 
   constructor(
     private readonly reader: Reader,
     private readonly texts: BookTexts,
     private readonly names: PageNames,
     private readonly say: Say,
+    private readonly ownsPage: boolean,
   ) {
     reader.sheet.append(this.element);
     reader.on('placed', (pages) => this.place(pages));
-    reader.on('pictured', (place) => {
-      this.pictured.add(place);
+    reader.on('pictured', () => {
       this.showFailures();
-      this.addTexts();
+      this.addTextsBehindPictures();
     });
     reader.on('jumped', ({ to }) => (this.focusWanted = to));
-    reader.on('settled', () => {
-      this.focusAfterJump();
-      this.addTexts();
+    reader.on('revealed', (place) => {
+      this.focusWanted = place;
+      if (this.shown.has(place)) this.settleFocus();
     });
+    reader.on('settled', () => {
+      this.settleFocus();
+      this.addTextsBehindPictures();
+    });
+    this.element.addEventListener('focusin', ({ target }) => this.bringIntoSight(target as Element));
   }
 
   /** Puts the focus on a page, from where a screen reader goes on to read it. */
@@ -80,8 +88,10 @@ export class PageLayer {
   }
 
   private remove(place: number, { element }: ShownPage): void {
-    // The page that comes in its stead takes the focus over, or keys would start from the top.
-    if (element.contains(document.activeElement)) this.focusWanted ||= -1;
+    if (element.contains(document.activeElement)) {
+      // The page that comes in its stead takes the focus over once it lies still. Till then keys are heard here.
+      this.element.focus({ preventScroll: true });
+    }
     element.remove();
     this.shown.delete(place);
   }
@@ -102,9 +112,14 @@ export class PageLayer {
     return shown;
   }
 
-  /** Once the pictures are there, because the text is neither seen nor urgent. */
+  private addTextsBehindPictures(): void {
+    const isWaiting = [...this.shown.keys()].some((place) => !this.reader.hasPicture(place) && !this.reader.hasFailed(place));
+    clearTimeout(this.textTimer);
+    if (isWaiting) this.textTimer = window.setTimeout(() => this.addTexts(), TEXT_WAIT_MILLISECONDS);
+    else this.addTexts();
+  }
+
   private addTexts(): void {
-    for (const place of this.shown.keys()) if (!this.pictured.has(place) && !this.reader.hasFailed(place)) return;
     for (const [place, page] of this.shown)
       if (page.element.dataset.text === undefined) {
         page.element.dataset.text = '';
@@ -123,11 +138,9 @@ export class PageLayer {
   private link(link: PageLink): [readonly [HTMLAnchorElement, PageLink]] | undefined {
     const isForeign = SAFE_ADDRESS.test(link.url ?? '');
     if (!isForeign && !link.place) return undefined;
-    const anchor = create('a', { className: 'link' });
+    const anchor = isForeign ? this.leadAway(link.url!) : this.leadTo(link.place!);
     putInside(anchor, [link.x, link.y, link.width, link.height]);
     this.nameLink(anchor, link, '');
-    if (isForeign) this.leadAway(anchor, link.url!);
-    else this.leadTo(anchor, link.place!);
     return [[anchor, link]];
   }
 
@@ -139,30 +152,21 @@ export class PageLayer {
     anchor.setAttribute('aria-label', text ? `${text}: ${title}` : title);
   }
 
-  private leadAway(anchor: HTMLAnchorElement, url: string): void {
-    Object.assign(anchor, { href: url, target: this.reader.settings.linkTarget, rel: 'noopener noreferrer' });
+  private leadAway(href: string): HTMLAnchorElement {
+    const target = this.reader.settings.linkTarget;
+    return create('a', { className: 'link', href, target, rel: 'noopener noreferrer' });
   }
 
-  private leadTo(anchor: HTMLAnchorElement, place: number): void {
-    anchor.href = hashOf(place);
-    anchor.addEventListener('click', (event) => {
-      if (event.ctrlKey || event.metaKey || event.shiftKey) return;
-      event.preventDefault();
-      this.reader.goTo(place);
-    });
+  private leadTo(place: number): HTMLAnchorElement {
+    const link = makePageLink(place, this.ownsPage, () => this.reader.goTo(place));
+    link.className = 'link';
+    return link;
   }
 
   private showMarks(place: number, { marks }: ShownPage): void {
-    const here = this.marks.filter((mark) => mark.place === place);
-    marks.replaceChildren(
-      ...here.flatMap((mark) =>
-        mark.boxes.map((box) => {
-          const element = create('div', { className: mark === this.chosen ? 'mark chosen' : 'mark' });
-          putInside(element, box);
-          return element;
-        }),
-      ),
-    );
+    const here = this.marks.filter((mark) => mark.place === place && mark !== this.chosen).slice(0, MOST_MARKS);
+    const chosen = this.chosen?.place === place ? markElements(this.chosen, 'mark chosen') : [];
+    marks.replaceChildren(...here.flatMap((mark) => markElements(mark, 'mark')), ...chosen);
   }
 
   private showFailures(): void {
@@ -195,20 +199,43 @@ export class PageLayer {
     return retry;
   }
 
-  private focusAfterJump(): void {
-    if (this.focusWanted === 0) return;
-    if (isFocusFree(this.element)) this.focus(this.shown.has(this.focusWanted) ? this.focusWanted : this.reader.place);
+  private settleFocus(): void {
+    const isBetweenPages = document.activeElement === this.element;
+    if (isBetweenPages || (this.focusWanted !== 0 && this.isFocusFree()))
+      this.focus(this.shown.has(this.focusWanted) ? this.focusWanted : this.reader.place);
     this.focusWanted = 0;
+  }
+
+  /** A book inside another page takes the focus from its own controls only. */
+  private isFocusFree(): boolean {
+    const focused = document.activeElement;
+    const isOurs = focused?.closest('.leafcast') === this.element.closest('.leafcast');
+    const isNobodys = focused === null || focused === document.body;
+    return document.hasFocus() && (isOurs || (isNobodys && this.ownsPage));
+  }
+
+  /** A zoomed page lies partly beyond the stage, where nothing scrolls to what keys reach. */
+  private bringIntoSight(focused: Element): void {
+    if (!focused.matches('.link:focus-visible')) return;
+    const [box, space] = [focused, this.element.closest('.stage')!].map((each) => each.getBoundingClientRect());
+    const across = beyond(box!.left, box!.right, space!.left, space!.right) / space!.width;
+    const down = beyond(box!.top, box!.bottom, space!.top, space!.bottom) / space!.height;
+    if (across !== 0 || down !== 0) this.reader.pan(across, down);
   }
 }
 
-/** A book inside another page takes the focus from its own controls only. */
-function isFocusFree(element: HTMLElement): boolean {
-  const focused = document.activeElement;
-  const isOurs =
-    focused === null || focused === document.body || focused.closest('.leafcast') === element.closest('.leafcast');
-  return document.hasFocus() && isOurs;
+/** How far from..to reaches beyond low..high; negative before it. */
+function beyond(from: number, to: number, low: number, high: number): number {
+  if (from < low) return from - low;
+  return to > high ? Math.min(to - high, from - low) : 0;
 }
+
+const markElements = ({ boxes }: Mark, className: string): HTMLElement[] =>
+  boxes.map((box) => {
+    const element = create('div', { className });
+    putInside(element, box);
+    return element;
+  });
 
 /** The words that lie mostly inside a link; they are its name. */
 function textUnder(link: PageLink, lines: readonly TextLine[]): string {

@@ -62,13 +62,15 @@ export class PageNames {
     return places.every((place) => this.label(place) === String(place));
   }
 
-  /** Labels may hold hyphens themselves, so the whole part is tried before its two ends. */
+  /** Labels may hold hyphens themselves, so the whole part is tried first, then each hyphen as the one between two ends. */
   private findPart(part: string): number[] | undefined {
     const alone = this.find(part);
     if (alone) return [alone];
-    const ends = part.split(/[-–]/).map((end) => this.find(end));
-    const [first, last] = ends;
-    return ends.length === 2 && first && last ? [first, last] : undefined;
+    for (const { index } of part.matchAll(/[-–]/g)) {
+      const [first, last] = [this.find(part.slice(0, index)), this.find(part.slice(index + 1))];
+      if (first && last) return [first, last];
+    }
+    return undefined;
   }
 
   private count(text: string): number | undefined {

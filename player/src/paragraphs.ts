@@ -18,6 +18,14 @@ const INITIAL_SIZE = 1.6; // of the lines beside it
 export const isBroken = (text: string, next: string): boolean =>
   /\p{L}[-\u00ad‐]$/u.test(text) && /^\p{Ll}/u.test(next);
 
+const UNSPACED = String.raw`[\p{Script=Han}\p{Script=Hiragana}\p{Script=Katakana}\u3000-\u303f\uff00-\uffef]`;
+const ENDS_UNSPACED = new RegExp(`${UNSPACED}$`, 'u');
+const BEGINS_UNSPACED = new RegExp(`^${UNSPACED}`, 'u');
+
+/** What stands for the end of a line: nothing in scripts that are written without blanks. */
+export const lineGap = (text: string, next: string): string =>
+  ENDS_UNSPACED.test(text) && BEGINS_UNSPACED.test(next) ? '' : ' ';
+
 /** Lines of a page put together as they are read; `shape` is the page's width over its height. */
 export function paragraphsOf(lines: readonly TextLine[], shape: number): string[] {
   const paragraphs: string[] = [];
@@ -57,5 +65,6 @@ const isInitial = (previous: PlacedLine, next: PlacedLine): boolean =>
 
 function joined(paragraph: string, previous: PlacedLine, next: PlacedLine): string {
   if (isInitial(previous, next)) return paragraph + next.text;
-  return isBroken(previous.text, next.text) ? paragraph.slice(0, -1) + next.text : `${paragraph} ${next.text}`;
+  if (isBroken(previous.text, next.text)) return paragraph.slice(0, -1) + next.text;
+  return paragraph + lineGap(previous.text, next.text) + next.text;
 }

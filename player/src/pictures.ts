@@ -52,6 +52,10 @@ export class Pictures {
     return picture.bitmap;
   }
 
+  has(place: number): boolean {
+    return this.held.has(place);
+  }
+
   hasFailed(place: number): boolean {
     return this.failed.has(place);
   }

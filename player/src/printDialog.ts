@@ -10,11 +10,13 @@ export function openPrintDialog(ui: Ui): void {
   const field = create('input', {
     type: 'text',
     className: 'field',
-    'aria-label': say('printExample'),
+    'aria-label': say('printSome'),
     placeholder: '1-4, 7',
   });
   const some = choice(say('printSome'), 'some', false, field);
-  const note = create('p', { className: 'note', role: 'status' }, say('printExample'));
+  const note = create('p', { className: 'note', role: 'status', id: 'leafcast-print-note' }, say('printExample'));
+  field.setAttribute('aria-describedby', note.id);
+  const button = create('button', { type: 'submit', className: 'main-button' }, say('print'));
   const form = create(
     'form',
     { className: 'form', noValidate: true },
@@ -22,7 +24,7 @@ export function openPrintDialog(ui: Ui): void {
     choice(say('printAll'), 'all', false),
     some,
     note,
-    create('button', { type: 'submit', className: 'main-button' }, say('print')),
+    button,
   );
   field.addEventListener('focus', () => (some.querySelector('input')!.checked = true));
   const { close, closed } = openDialog(ui, say('print'), form);
@@ -34,7 +36,12 @@ export function openPrintDialog(ui: Ui): void {
     if (!places) return field.focus();
     const pages = places.map((place) => ({ url: reader.book.pages[place - 1]!.image, label: names.label(place) }));
     const tell = (done: number) => (note.textContent = `${say('printing')} ${done} / ${places.length}`);
-    void printPages(pages, tell, closed).then(close);
+    button.disabled = true;
+    void printPages(pages, tell, closed).then((missing) => {
+      button.disabled = false;
+      if (missing.length === 0) close();
+      else note.textContent = say('printMissing', missing.join(', '));
+    });
   });
 }
 
@@ -56,8 +63,15 @@ interface PageToPrint {
 
 const AT_ONCE = 4;
 
-/** Pages that cannot be loaded are left out. Nothing is printed once the dialog is closed. */
-async function printPages(pages: readonly PageToPrint[], tell: (done: number) => void, closed: AbortSignal): Promise<void> {
+/**
+ * Answers the labels of pages that could not be loaded, which are left out. Nothing is printed when there
+ * is no other, or once the dialog is closed.
+ */
+async function printPages(
+  pages: readonly PageToPrint[],
+  tell: (done: number) => void,
+  closed: AbortSignal,
+): Promise<string[]> {
   const pictures = new Array<HTMLElement | undefined>(pages.length);
   let [next, done] = [0, 0];
   const load = async () => {
@@ -68,12 +82,14 @@ async function printPages(pages: readonly PageToPrint[], tell: (done: number) =>
     }
   };
   await Promise.all(Array.from({ length: AT_ONCE }, load));
-  if (closed.aborted) return;
+  const missing = pages.filter((_, at) => !pictures[at]).map(({ label }) => label);
+  if (closed.aborted || missing.length === pages.length) return missing;
   const takeAway = putOnPaper(pictures.flatMap((picture) => picture ?? []));
   const printed = new Promise((resolve) => window.addEventListener('afterprint', resolve, { once: true }));
   window.print();
   await printed;
   takeAway();
+  return missing;
 }
 
 function pictureOf({ url, label }: PageToPrint): Promise<HTMLElement | undefined> {

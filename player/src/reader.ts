@@ -8,7 +8,7 @@ import { Thumbnails } from './thumbnails.ts';
 import type { View, ViewKind } from './view.ts';
 import { makeView } from './views.ts';
 import type { Zoom } from './zoom.ts';
-import { panBy, zoomAbout } from './zoom.ts';
+import { MOST_SCALE, panBy, zoomAbout } from './zoom.ts';
 
 export interface ReaderEvents {
   /** The pages that will lie open; said at once, while leaves still move. */
@@ -18,10 +18,13 @@ export interface ReaderEvents {
   /** Where pages lie on the sheet, for what is laid over them. */
   placed: readonly PlacedPage[];
   zoomed: Zoom;
+  motionReduced: boolean;
   /** A page's picture came, or could not be loaded. */
   pictured: number;
   /** A jump is about to happen, from a page to another; for the history. */
   jumped: { readonly from: number; readonly to: number };
+  /** A jump was asked for to a page that lies open. */
+  revealed: number;
 }
 
 /**
@@ -32,6 +35,7 @@ export class Reader extends Emitter<ReaderEvents> {
   /** They also stand in for pages that are on their way. */
   readonly thumbnails: Thumbnails;
   private readonly view: View;
+  private isMotionReduced = false;
 
   constructor(
     stage: HTMLElement,
@@ -84,6 +88,15 @@ export class Reader extends Emitter<ReaderEvents> {
     return this.view.zoom.scale;
   }
 
+  get mostScale(): number {
+    return this.view.mostScale ?? MOST_SCALE;
+  }
+
+  /** A cross-fade takes the place of the turn. */
+  get hasReducedMotion(): boolean {
+    return this.isMotionReduced;
+  }
+
   next(): boolean {
     return this.view.turn(1);
   }
@@ -95,7 +108,10 @@ export class Reader extends Emitter<ReaderEvents> {
   /** A jump that the back button undoes, to a page or to what lies at a fraction of its height. */
   goTo(place: number, top?: number): void {
     const to = this.within(place);
-    if (this.places.includes(to)) return this.view.reveal?.(to, top);
+    if (this.places.includes(to)) {
+      this.view.reveal?.(to, top);
+      return this.emit('revealed', to);
+    }
     this.emit('jumped', { from: this.place, to });
     this.view.goTo(to, top);
   }
@@ -109,9 +125,10 @@ export class Reader extends Emitter<ReaderEvents> {
     this.view.setMode?.(mode);
   }
 
-  /** A cross-fade takes the place of the turn. */
   setReducedMotion(reduced: boolean): void {
+    this.isMotionReduced = reduced;
     this.view.setReducedMotion(reduced);
+    this.emit('motionReduced', reduced);
   }
 
   /** About the middle of the stage. */
@@ -129,13 +146,25 @@ export class Reader extends Emitter<ReaderEvents> {
     return Math.abs(x - zoom.offset.x) > 1 || Math.abs(y - zoom.offset.y) > 1;
   }
 
-  /** Whether a page's picture could not be loaded. */
+  /** Whether a page's picture is there. */
+  hasPicture(place: number): boolean {
+    return this.view.hasPicture(place);
+  }
+
+  /** Whether it could not be loaded. */
   hasFailed(place: number): boolean {
     return this.view.hasFailed(place);
   }
 
   retry(place: number): void {
     this.view.retry(place);
+  }
+
+  /** Nothing is told any more, and nothing more can be asked. */
+  destroy(): void {
+    this.clear();
+    this.view.destroy();
+    this.thumbnails.destroy();
   }
 
   private within(place: number): number {

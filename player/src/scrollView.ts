@@ -28,7 +28,8 @@ const TOLERANCE_PIXELS = 2;
 /** Where a jump or a step goes, until its reader scrolls elsewhere. */
 interface Aim {
   readonly place: number;
-  readonly top: number;
+  readonly part: number; // of the page's height
+  readonly top: number; // to be scrolled to
   away: number; // the least distance so far
 }
 
@@ -48,6 +49,7 @@ export class ScrollView implements View {
   private left = 0; // of the sheet, where it is narrower than the window
   private aim: Aim | undefined;
   private reducedMotion = false;
+  private unfollow: (() => void) | undefined; // the size of the stage
   private shown = '';
   private last = 0; // scrolled to
   private reading: Anchor;
@@ -74,7 +76,7 @@ export class ScrollView implements View {
 
   start(): void {
     this.tell();
-    onOtherSize(this.host, () => {
+    this.unfollow = onOtherSize(this.host, () => {
       this.arrange();
       this.tell();
     });
@@ -91,6 +93,10 @@ export class ScrollView implements View {
   get zoom(): Zoom {
     const { scrollLeft, scrollTop } = this.host;
     return { scale: this.scale, offset: { x: this.left - scrollLeft, y: -scrollTop } };
+  }
+
+  get mostScale(): number {
+    return this.isLaidOut ? clamp(MOST_HEIGHT / this.column.height, LEAST_SCALE, MOST_SCALE) : MOST_SCALE;
   }
 
   turn(count: number): boolean {
@@ -113,7 +119,8 @@ export class ScrollView implements View {
   }
 
   setZoom(zoom: Zoom): void {
-    const most = clamp(MOST_HEIGHT / this.column.height, LEAST_SCALE, MOST_SCALE);
+    if (!this.isLaidOut) return;
+    const most = this.mostScale;
     const middle = { x: this.host.clientWidth / 2, y: this.host.clientHeight / 2 };
     const { scale, offset } = zoom.scale > most ? zoomAbout(this.zoom, middle, most) : zoom;
     this.scale = scale;
@@ -125,6 +132,10 @@ export class ScrollView implements View {
     this.events.zoomed(this.zoom);
   }
 
+  hasPicture(place: number): boolean {
+    return this.pictures.pictures.has(place);
+  }
+
   hasFailed(place: number): boolean {
     return this.pictures.hasFailed(place);
   }
@@ -133,10 +144,21 @@ export class ScrollView implements View {
     this.pictures.pictures.retry(place);
   }
 
+  destroy(): void {
+    this.unfollow?.();
+    clearTimeout(this.rest);
+    this.sharp.clear();
+    this.pictures.pictures.close();
+  }
+
   private pictured(place: number): void {
     const canvas = this.canvases.get(place);
     if (canvas) this.pictures.paint(canvas, place, this.boxOf(place));
     this.events.pictured(place);
+  }
+
+  private get isLaidOut(): boolean {
+    return this.column.boxes.length > 0;
   }
 
   private boxOf(place: number): Box {
@@ -146,19 +168,20 @@ export class ScrollView implements View {
   private arrange(): void {
     const { clientWidth, clientHeight } = this.host;
     if (!clientWidth || !clientHeight) return;
-    const goesTo = this.column.height === 0 ? this.told : this.aim?.place;
+    const aim = this.isLaidOut ? this.aim : { place: this.told, part: 0, ...this.aim };
     this.column = layoutColumn(this.book.pages, this.book.shape, clientWidth, this.options.readingWidth);
     this.scale = Math.min(this.scale, MOST_HEIGHT / this.column.height);
     for (const place of this.canvases.keys()) this.drop(place);
     this.shown = '';
+    this.sharp.clear();
     this.placeSheet();
-    if (goesTo) this.goTo(goesTo);
+    if (aim) this.goTo(aim.place, aim.part);
     else this.host.scrollTop = scrolledTo(heightOf(this.column, this.reading), clientHeight / this.scale, this.column.height) * this.scale;
     this.scrolled();
   }
 
   private tell(): void {
-    if (this.column.boxes.length === 0) return; // the stage has no size yet
+    if (!this.isLaidOut) return;
     this.events.placed(this.placed());
     this.events.settled(this.places);
   }
@@ -170,12 +193,21 @@ export class ScrollView implements View {
     Object.assign(this.spacer.style, { width: `${column.width * scale}px`, height: `${column.height * scale}px` });
   }
 
+  /** A stage without a size, as in a hidden part of another page, goes there once it has got one. */
+  private aimAt(place: number, part: number): void {
+    this.aim = { place, part, top: 0, away: 0 };
+    if (place === this.told) return;
+    this.told = place;
+    this.events.turned([place]);
+  }
+
   private scrollTo(place: number, part: number, behavior: ScrollBehavior): void {
+    if (!this.isLaidOut) return this.aimAt(place, part);
     const { clientHeight, scrollHeight, scrollTop } = this.host;
     const lead = part > 0 ? clientHeight * LINE_LEAD : LEAD_PIXELS;
     const wanted = heightOf(this.column, { place, part }) * this.scale - lead;
     const top = clamp(wanted, 0, Math.max(scrollHeight - clientHeight, 0));
-    this.aim = { place, top, away: Math.abs(scrollTop - top) };
+    this.aim = { place, part, top, away: Math.abs(scrollTop - top) };
     this.host.scrollTo({ top, behavior });
     this.last = this.host.scrollTop;
     this.scrolled();

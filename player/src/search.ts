@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 import type { TextLine, WordBox } from './book.ts';
 import type { PageText } from './bookTexts.ts';
-import { isBroken } from './paragraphs.ts';
+import { isBroken, lineGap } from './paragraphs.ts';
 
 /** A place in the text that matches, with the words around it as they are printed. */
 export interface Hit {
@@ -27,13 +27,17 @@ interface FoldedText {
 
 const CONTEXT_WORDS = 7;
 const SOFT_HYPHEN = /\u00ad/g;
+/** Not the marks that make another letter: voiced kana, vowels of Indic scripts and Thai. */
+const ACCENT = /(?![\u3099\u309a])(?=\p{M})[\p{Script=Inherited}\p{Script=Arabic}\p{Script=Hebrew}]/gu;
 
-/** What differs in case, accents, ligatures or width only is the same when it is searched for. */
+const CHANGES_LETTER = /\p{M}/u; // of those that folding leaves
+
+/** What differs in case, accents and vowel points, ligatures or width only is the same when it is searched for. */
 export function fold(text: string): string {
   return text
     .replace(SOFT_HYPHEN, '')
     .normalize('NFKD')
-    .replace(/\p{M}/gu, '')
+    .replace(ACCENT, '')
     .toLowerCase()
     .replace(/ß/g, 'ss')
     .replace(/[‘’]/g, "'")
@@ -51,7 +55,7 @@ export async function* search(query: string, pages: AsyncIterable<PageText>): As
 function hitsOn(place: number, text: FoldedText, wanted: string): Hit[] {
   const hits: Hit[] = [];
   for (let at = text.folded.indexOf(wanted); at >= 0; at = text.folded.indexOf(wanted, at + wanted.length))
-    hits.push(hitAt(place, text, at, at + wanted.length));
+    if (!CHANGES_LETTER.test(text.folded.charAt(at + wanted.length))) hits.push(new FoundHit(place, text, at, at + wanted.length));
   return hits;
 }
 
@@ -63,7 +67,8 @@ function foldedText(lines: readonly TextLine[]): FoldedText {
   let folded = '';
   words.forEach((word, index) => {
     starts.push(folded.length);
-    folded += isCut(word, words[index + 1]) ? fold(word.text.slice(0, -1)) : `${fold(word.text)} `;
+    const next = words[index + 1];
+    folded += isCut(word, next) ? fold(word.text.slice(0, -1)) : fold(word.text) + gapAfter(word, next);
   });
   return { folded, starts, words };
 }
@@ -71,20 +76,48 @@ function foldedText(lines: readonly TextLine[]): FoldedText {
 const isCut = (word: Word, next: Word | undefined): boolean =>
   next !== undefined && next.line !== word.line && isBroken(word.text, next.text);
 
-function hitAt(place: number, text: FoldedText, from: number, to: number): Hit {
-  const first = wordAt(text.starts, from);
-  const end = wordAt(text.starts, to - 1) + 1;
-  const words = (start: number, stop: number) => joined(text.words.slice(Math.max(start, 0), stop));
-  return {
-    place,
-    before: words(first - CONTEXT_WORDS, first),
-    match: words(first, end),
-    after: words(end, end + CONTEXT_WORDS),
-    boxes: boxesOfLines(text.words.slice(first, end)),
-  };
+/** Of the many hits of a short query few are ever looked at; only those are put into words. */
+class FoundHit implements Hit {
+  private readonly first: number; // word
+  private readonly end: number; // behind the last one
+
+  constructor(
+    readonly place: number,
+    private readonly page: FoldedText,
+    from: number,
+    to: number,
+  ) {
+    this.first = wordAt(page.starts, from);
+    this.end = wordAt(page.starts, to - 1) + 1;
+  }
+
+  get before(): string {
+    return joined(this.words(this.first - CONTEXT_WORDS, this.first));
+  }
+
+  get match(): string {
+    return joined(this.words(this.first, this.end));
+  }
+
+  get after(): string {
+    return joined(this.words(this.end, this.end + CONTEXT_WORDS));
+  }
+
+  get boxes(): WordBox[] {
+    return boxesOfLines(this.words(this.first, this.end));
+  }
+
+  private words(start: number, stop: number): readonly Word[] {
+    return this.page.words.slice(Math.max(start, 0), stop);
+  }
 }
 
-const joined = (words: readonly Word[]): string => words.map(({ text }) => text).join(' ');
+/** As they are printed: a cut word keeps its hyphen. */
+const joined = (words: readonly Word[]): string =>
+  words.map((word, index) => word.text + (index + 1 < words.length ? gapAfter(word, words[index + 1]) : '')).join('');
+
+const gapAfter = (word: Word, next: Word | undefined): string =>
+  next && next.line !== word.line ? lineGap(word.text, next.text) : ' ';
 
 /** The last word that starts at or before a character. */
 function wordAt(starts: readonly number[], character: number): number {

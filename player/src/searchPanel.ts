@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 import { create } from './dom.ts';
+import { pauseNowAndThen } from './idle.ts';
 import type { PanelContent } from './sidePanel.ts';
 import { type Hit, search } from './search.ts';
 import type { Ui } from './ui.ts';
 
-const PAUSE_MILLISECONDS = 180;
+const TYPING_MILLISECONDS = 180;
 const HITS_AT_ONCE = 40;
 
 /** Searches the text of the book without a server; what was searched for stays for the next time. */
@@ -12,7 +13,8 @@ export function makeSearchPanel(ui: Ui): () => PanelContent {
   let query = '';
   return () => {
     const panel = new SearchPanel(ui, query, (changed) => (query = changed));
-    return { element: panel.element, focus: () => panel.focus(), closed: () => ui.layer.mark([]) };
+    const { element } = panel;
+    return { element, shown: () => panel.start(), focus: () => panel.focus(), closed: () => ui.layer.mark([]) };
   };
 }
 
@@ -44,10 +46,14 @@ class SearchPanel {
     });
     this.field.addEventListener('input', () => {
       clearTimeout(this.timer);
-      this.timer = window.setTimeout(() => void this.search(), PAUSE_MILLISECONDS);
+      this.timer = window.setTimeout(() => void this.search(), TYPING_MILLISECONDS);
     });
     this.element = create('div', { className: 'panel-body searching' }, form, this.list, this.more);
-    if (query) void this.search();
+  }
+
+  /** Searches for what is remembered. */
+  start(): void {
+    if (this.field.value) void this.search();
   }
 
   focus(): void {
@@ -63,13 +69,19 @@ class SearchPanel {
     this.wanted = HITS_AT_ONCE;
     this.list.replaceChildren();
     this.show();
+    const pause = pauseNowAndThen();
     for await (const hits of search(this.field.value, this.ui.texts.all())) {
-      // Another query was typed, or the panel was left.
-      if (run !== this.run || (run > 1 && !this.element.isConnected)) return;
+      if (this.isOver(run)) return;
       this.hits.push(...hits);
       if (hits.length > 0) this.show();
+      await pause();
     }
-    if (run === this.run) this.tell();
+    if (!this.isOver(run)) this.tell();
+  }
+
+  /** Another query was typed, or the panel was left. */
+  private isOver(run: number): boolean {
+    return run !== this.run || !this.element.isConnected;
   }
 
   private tell(): void {
@@ -111,7 +123,6 @@ class SearchPanel {
       button.setAttribute('aria-current', 'true');
       layer.mark(this.hits, hit);
       panel.makeWay();
-      if (reader.places.includes(hit.place)) layer.focus(hit.place);
       reader.goTo(hit.place, hit.boxes[0]?.[1]);
     });
     return create('li', {}, button);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 import { type BookConfig, isOn } from './book.ts';
+import { isColour } from './colour.ts';
 import type { Mode } from './layout.ts';
 import type { ViewKind } from './view.ts';
 
@@ -89,7 +90,7 @@ export function readSettings(config: BookConfig, kind: ViewKind = 'book'): Setti
     turnSeconds: Math.max(number('turnDuration', 800) / 1000, SHORTEST_TURN_SECONDS),
     slideEffect: EFFECTS[text('slideEffect')] ?? 'slide',
     readingWidth: number('readingWidth', 900),
-    paperColour: text('pageColor') || '#ffffff',
+    paperColour: isColour(text('pageColor')) ? text('pageColor') : '#ffffff',
     pageEdges: flag('pageEdges', true),
     keyboard: flag('keyboardControl', true),
     wheelTurns: flag('wheelTurns', true),

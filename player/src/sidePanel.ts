@@ -9,7 +9,7 @@ export interface PanelContent {
   readonly focus?: () => void;
   /** Called once the panel is in the document. */
   readonly shown?: () => void;
-  /** Called when a reader is done with it. */
+  /** Called when a reader is done with it, and with what was chosen in it. */
   readonly closed?: () => void;
 }
 
@@ -23,6 +23,7 @@ interface OpenPanel {
 /** The place beside the book for one panel at a time, made when it is opened and dropped after it. */
 export class SidePanel {
   private open: OpenPanel | undefined;
+  private chosen: PanelContent | undefined; // what made way for the page
 
   constructor(
     private readonly root: HTMLElement,
@@ -32,7 +33,8 @@ export class SidePanel {
   toggle(button: HTMLElement, title: string, build: () => PanelContent): void {
     if (this.open?.button === button) return void this.close();
     const opener = this.open?.opener ?? focused();
-    this.remove();
+    this.remove()?.closed?.();
+    this.leaveChosen();
     const content = build();
     const element = this.frame(title, content.element);
     this.open = { button, element, content, opener };
@@ -44,26 +46,38 @@ export class SidePanel {
     else element.focus();
   }
 
-  /** Answers whether there was one. */
+  /** Answers whether there was one, or something that was chosen in one before. */
   close(): boolean {
-    if (!this.open) return false;
-    const { opener, content } = this.open;
-    this.remove();
-    content.closed?.();
+    if (!this.open) return this.leaveChosen();
+    const { opener } = this.open;
+    this.remove()?.closed?.();
     opener?.focus();
     return true;
   }
 
   /** Something was chosen in it: makes way for the page where it covers that. */
   makeWay(): void {
-    if (this.root.classList.contains('narrow')) this.remove();
+    if (!this.open || !this.root.classList.contains('narrow')) return;
+    const { opener } = this.open;
+    this.chosen = this.remove();
+    // A page takes the focus over, but only from what is the book's.
+    opener?.focus();
   }
 
-  private remove(): void {
-    this.open?.element.remove();
-    this.open?.button.setAttribute('aria-expanded', 'false');
+  private leaveChosen(): boolean {
+    const { chosen } = this;
+    this.chosen = undefined;
+    chosen?.closed?.();
+    return chosen !== undefined;
+  }
+
+  private remove(): PanelContent | undefined {
+    const { open } = this;
+    open?.element.remove();
+    open?.button.setAttribute('aria-expanded', 'false');
     this.open = undefined;
     delete this.root.dataset.panel;
+    return open?.content;
   }
 
   private frame(title: string, body: HTMLElement): HTMLElement {

@@ -36,6 +36,7 @@ export class SlideView implements View {
   private readonly ticker = new Ticker((seconds) => this.step(seconds));
   private motion: SlideMotion;
   private reducedMotion = false;
+  private unfollow: (() => void) | undefined; // the size of the stage
   private hasTurned = false;
   private zoomed = NO_ZOOM;
   private space: Size = NOTHING;
@@ -59,7 +60,7 @@ export class SlideView implements View {
 
   start(): void {
     this.tell();
-    onOtherSize(this.host, () => {
+    this.unfollow = onOtherSize(this.host, () => {
       this.arrange();
       this.tell();
     });
@@ -85,6 +86,10 @@ export class SlideView implements View {
   /** From one page to the next, in CSS pixels. */
   get stride(): number {
     return this.space.width * (this.options.rightToLeft ? -1 : 1);
+  }
+
+  canTurn(step: number): boolean {
+    return this.place + step >= 1 && this.place + step <= this.book.pages.length;
   }
 
   turn(count: number): boolean {
@@ -131,12 +136,23 @@ export class SlideView implements View {
     this.events.zoomed(this.zoomed);
   }
 
+  hasPicture(place: number): boolean {
+    return this.pictures.pictures.has(place);
+  }
+
   hasFailed(place: number): boolean {
     return this.pictures.hasFailed(place);
   }
 
   retry(place: number): void {
     this.pictures.pictures.retry(place);
+  }
+
+  destroy(): void {
+    this.unfollow?.();
+    this.ticker.stop();
+    this.sharp.clear();
+    this.pictures.pictures.close();
   }
 
   private pictured(place: number): void {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 import type { Size } from './geometry.ts';
+import { onResize } from './onResize.ts';
 
 export const sizeOf = ({ clientWidth, clientHeight }: HTMLElement): Size => ({ width: clientWidth, height: clientHeight });
 
@@ -9,13 +10,13 @@ export function marginOf(stage: HTMLElement): Size {
   return { width: parseFloat(paddingLeft), height: parseFloat(paddingTop) };
 }
 
-/** Calls back when a stage has another size than it has now. */
-export function onOtherSize(stage: HTMLElement, changed: () => void): void {
+/** Calls back when a stage has another size than it has now. Answers how to stop. */
+export function onOtherSize(stage: HTMLElement, changed: () => void): () => void {
   let last = sizeOf(stage);
-  new ResizeObserver(() => {
+  return onResize(stage, () => {
     const now = sizeOf(stage);
     if (now.width === last.width && now.height === last.height) return;
     last = now;
     changed();
-  }).observe(stage);
+  });
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 import type { Size } from './geometry.ts';
-import type { Ground, LeafFaces } from './leafPainter.ts';
+import type { LeafFaces } from './leafPainter.ts';
+import type { Ground } from './leafShadow.ts';
 
 /** The free edge of a board that stands upright is nearer to the eye, and looks so much taller. */
 const PERSPECTIVE = 0.14;

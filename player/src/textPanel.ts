@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-import { create } from './dom.ts';
+import { create, scrollWithin } from './dom.ts';
 import { paragraphsOf } from './paragraphs.ts';
 import type { PanelContent } from './sidePanel.ts';
 import type { Ui } from './ui.ts';
@@ -23,11 +23,15 @@ export function textPanel(ui: Ui): PanelContent {
     later.hidden = last === reader.pageCount;
   };
   const headingOf = (place: number) => text.children[place - first]?.querySelector('h3');
+  const scrollTo = (place: number) => {
+    const heading = headingOf(place);
+    if (heading) scrollWithin(element, heading);
+  };
   const reveal = (place: number) => {
     headingOf(place)?.focus({ preventScroll: true });
-    headingOf(place)?.scrollIntoView();
+    scrollTo(place);
     // The texts above it come from the same file, and move it when they come.
-    void texts.linesOf(place).then(() => headingOf(place)?.scrollIntoView());
+    void texts.linesOf(place).then(() => scrollTo(place));
   };
   const showFrom = (from: number, heading: number) => {
     show(from);

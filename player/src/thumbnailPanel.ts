@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 import { create } from './dom.ts';
+import { onResize } from './onResize.ts';
 import type { PanelContent } from './sidePanel.ts';
 import type { Ui } from './ui.ts';
 
@@ -21,6 +22,7 @@ export function thumbnailPanel(ui: Ui): PanelContent {
     element: overview.element,
     shown: () => overview.reveal(ui.reader.place),
     focus: () => overview.focus(ui.reader.place),
+    closed: overview.leave,
   };
 }
 
@@ -28,13 +30,19 @@ class Overview {
   private readonly list = create('ul', { className: 'thumbnails' });
   readonly element = create('div', { className: 'panel-body' }, this.list);
   private readonly cells = new Map<number, HTMLElement>();
+  /** To be called when it is not shown any more. */
+  readonly leave: () => void;
   private grid: Grid = { columns: 1, width: CELL_WIDTH, height: CELL_WIDTH };
 
   constructor(private readonly ui: Ui) {
     this.element.addEventListener('scroll', () => this.show(), { passive: true });
     this.list.addEventListener('keydown', (event) => this.onKey(event));
-    new ResizeObserver(() => this.element.isConnected && this.show()).observe(this.element);
-    const stop = ui.reader.on('turned', () => (this.element.isConnected ? this.markOpenPages() : stop()));
+    const stops = [
+      onResize(this.element, () => this.element.isConnected && this.show()),
+      ui.reader.on('turned', () => this.markOpenPages()),
+    ];
+    this.leave = () => stops.forEach((stop) => stop());
+    ui.signal.addEventListener('abort', this.leave);
   }
 
   reveal(place: number): void {

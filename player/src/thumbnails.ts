@@ -33,6 +33,13 @@ export class Thumbnails {
     return this.held.get(place);
   }
 
+  /** Frees what is held; nothing more is loaded. */
+  destroy(): void {
+    this.waiting.length = 0;
+    for (const bitmap of this.held.values()) bitmap.close();
+    this.held.clear();
+  }
+
   private async loadNext(): Promise<void> {
     if (this.running >= AT_ONCE) return;
     const next = this.waiting.pop();

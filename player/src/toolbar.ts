@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 import { create } from './dom.ts';
+import { onResize } from './onResize.ts';
 import { makeTool } from './tool.ts';
 import type { Ui } from './ui.ts';
 
@@ -18,10 +19,11 @@ export function makeToolbar(ui: Ui, title: string, tools: readonly RankedTool[])
   const header = create('header', { className: 'bar' }, ...logo(ui), heading, group);
   const menu = new Menu(ui);
   let shown = -1;
-  new ResizeObserver(() => {
+  const fit = () => {
     const room = roomFor(header, tools.length);
     if (room !== shown) spread(group, menu, tools, (shown = room));
-  }).observe(header);
+  };
+  ui.signal.addEventListener('abort', onResize(header, fit));
   return header;
 }
 

@@ -6,11 +6,11 @@ import { openPrintDialog } from './printDialog.ts';
 import { makeSearchPanel } from './searchPanel.ts';
 import type { Control } from './settings.ts';
 import { openShareDialog } from './shareDialog.ts';
+import { makeSoundSwitch } from './soundSwitch.ts';
 import { textPanel } from './textPanel.ts';
 import { thumbnailPanel } from './thumbnailPanel.ts';
 import { makePanelTool, makeTool } from './tool.ts';
 import type { RankedTool } from './toolbar.ts';
-import { makeSoundSwitch } from './turnSound.ts';
 import type { Ui } from './ui.ts';
 import { canBeFullScreen, makeFullScreen, makeMotionSwitch, makeViewMode, makeZoomTools } from './viewTools.ts';
 
@@ -22,6 +22,8 @@ interface ToolKind {
   readonly make: (ui: Ui) => HTMLButtonElement | HTMLButtonElement[];
 }
 
+/** Inside another page the book has one only when it is told. */
+const hasAddress = ({ ownsPage, reader }: Ui): boolean => ownsPage || reader.settings.shareAddress !== '';
 const hasText = ({ texts }: Ui): boolean => texts.hasText;
 
 /** In the order in which they stand in the bar. */
@@ -50,7 +52,7 @@ const KINDS: readonly ToolKind[] = [
   { control: 'sound', rank: 10, make: makeSoundSwitch },
   { control: 'motion', rank: 13, make: makeMotionSwitch },
   { control: 'print', rank: 7, make: (ui) => makeTool('print', ui.say('print'), () => openPrintDialog(ui)) },
-  { control: 'share', rank: 6, make: (ui) => makeTool('share', ui.say('share'), () => openShareDialog(ui)) },
+  { control: 'share', rank: 6, suits: hasAddress, make: (ui) => makeTool('share', ui.say('share'), () => openShareDialog(ui)) },
   {
     control: 'help',
     rank: 12,

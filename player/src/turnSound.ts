@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
 import type { Reader } from './reader.ts';
-import { changeTool, makeTool, setPressed } from './tool.ts';
-import type { Ui } from './ui.ts';
 
 const SECONDS = 0.34;
 
@@ -21,22 +19,20 @@ export class TurnSound {
   private hear(turned: string): void {
     if (!this.isOn || turned === this.shown) return;
     this.shown = turned;
-    this.audio ??= new AudioContext();
+    this.audio ??= makeAudio();
     // Browsers let a page sound only after its reader has pressed something.
-    if (this.audio.state === 'suspended') void this.audio.resume();
-    rustle(this.audio);
+    if (this.audio?.state === 'suspended') void this.audio.resume();
+    if (this.audio) rustle(this.audio);
   }
 }
 
-export function makeSoundSwitch({ sound, say }: Ui): HTMLButtonElement {
-  const tool = makeTool('silence', say('sound'), () => turnOn(!sound.isOn));
-  const turnOn = (wanted: boolean) => {
-    sound.isOn = wanted;
-    setPressed(tool, wanted);
-    changeTool(tool, wanted ? 'sound' : 'silence', say('sound'));
-  };
-  turnOn(sound.isOn);
-  return tool;
+/** Without a sound card, or with too many of them in use, there is none. */
+function makeAudio(): AudioContext | undefined {
+  try {
+    return new AudioContext();
+  } catch {
+    return undefined;
+  }
 }
 
 function rustle(audio: AudioContext): void {

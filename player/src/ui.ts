@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 import type { BookTexts } from './bookTexts.ts';
+import type { CharacterKeys } from './characterKeys.ts';
 import type { PageLayer } from './pageLayer.ts';
 import type { PageNames } from './pageNames.ts';
 import type { Reader } from './reader.ts';
@@ -19,6 +20,9 @@ export interface Ui {
   readonly thumbnails: Thumbnails;
   readonly panel: SidePanel;
   readonly sound: TurnSound;
+  readonly characterKeys: CharacterKeys;
+  /** Whether the page is the book's own: its address and its keys too. */
+  readonly ownsPage: boolean;
   /** Says something to screen readers, once nothing else is being said. */
   readonly announce: (text: string) => void;
   /** Aborted when the book is taken down. */

@@ -38,6 +38,8 @@ export interface View {
   readonly place: number;
   readonly isDouble: boolean;
   readonly zoom: Zoom;
+  /** Where that is less than for others. */
+  readonly mostScale?: number;
   /** Goes on or back by so many steps; answers whether there was any to go. */
   turn(count: number): boolean;
   /** `top` is what is to be seen of the page, as a fraction of its height. */
@@ -48,6 +50,9 @@ export interface View {
   setMode?(mode: Mode): void;
   setReducedMotion(reduced: boolean): void;
   setZoom(zoom: Zoom): void;
+  hasPicture(place: number): boolean;
   hasFailed(place: number): boolean;
   retry(place: number): void;
+  /** Stops whatever moves or is loaded, and frees it. Nothing else may be asked of the view then. */
+  destroy(): void;
 }

@@ -5,8 +5,9 @@ import type { Reader } from './reader.ts';
 import type { Texts } from './texts/english.ts';
 import { changeTool, makeTool, setPressed } from './tool.ts';
 import type { Ui } from './ui.ts';
+import { LEAST_SCALE, MOST_SCALE } from './zoom.ts';
 
-const ZOOM_STEPS = [0.5, 0.75, 1, 1.5, 2, 3, 4, 6];
+const ZOOM_STEPS = [LEAST_SCALE, 0.75, 1, 1.5, 2, 3, 4, MOST_SCALE];
 
 export function zoomBy(ui: Ui, direction: 1 | -1): void {
   const { scale } = ui.reader;
@@ -21,9 +22,9 @@ export function makeZoomTools(ui: Ui): HTMLButtonElement[] {
   const fit = makeTool('fit', say('fit'), () => reader.zoomTo(1));
   const zoomIn = makeTool('zoomIn', say('zoomIn'), () => zoomBy(ui, 1));
   const show = (scale: number) => {
-    zoomOut.setAttribute('aria-disabled', String(scale <= ZOOM_STEPS[0]!));
+    zoomOut.setAttribute('aria-disabled', String(scale <= LEAST_SCALE));
     fit.setAttribute('aria-disabled', String(scale === 1));
-    zoomIn.setAttribute('aria-disabled', String(scale >= ZOOM_STEPS[ZOOM_STEPS.length - 1]!));
+    zoomIn.setAttribute('aria-disabled', String(scale >= reader.mostScale));
   };
   reader.on('zoomed', ({ scale }) => show(scale));
   show(1);
@@ -52,25 +53,17 @@ export function makeViewMode({ reader, say, announce }: Ui): HTMLButtonElement {
   return tool;
 }
 
-const asksForLessMotion = (): MediaQueryList => matchMedia('(prefers-reduced-motion: reduce)');
-
 /** Does what readers have asked their system for, whether or not there is a switch. */
 export function followMotionPreference(reader: Reader, signal: AbortSignal): void {
-  const preference = asksForLessMotion();
+  const preference = matchMedia('(prefers-reduced-motion: reduce)');
   reader.setReducedMotion(preference.matches);
   preference.addEventListener('change', ({ matches }) => reader.setReducedMotion(matches), { signal });
 }
 
-export function makeMotionSwitch({ reader, say, signal }: Ui): HTMLButtonElement {
-  const preference = asksForLessMotion();
-  let isReduced = preference.matches;
-  const show = (reduced: boolean) => setPressed(tool, (isReduced = reduced));
-  const tool = makeTool('motion', say('lessMotion'), () => {
-    show(!isReduced);
-    reader.setReducedMotion(isReduced);
-  });
-  show(isReduced);
-  preference.addEventListener('change', ({ matches }) => show(matches), { signal });
+export function makeMotionSwitch({ reader, say }: Ui): HTMLButtonElement {
+  const tool = makeTool('motion', say('lessMotion'), () => reader.setReducedMotion(!reader.hasReducedMotion));
+  setPressed(tool, reader.hasReducedMotion);
+  reader.on('motionReduced', (isReduced) => setPressed(tool, isReduced));
   return tool;
 }
 

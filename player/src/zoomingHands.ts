@@ -30,6 +30,7 @@ export interface Handled {
   readonly zoom: Zoom;
   readonly options: { readonly wheelTurns: boolean; readonly rightToLeft: boolean };
   setZoom(zoom: Zoom): void;
+  canTurn(step: number): boolean;
   turn(count: number): boolean;
 }
 
@@ -124,8 +125,10 @@ export abstract class ZoomingHands<Kind extends Handled> implements GestureHandl
 
   private onWheel(event: WheelEvent): void {
     const { zoom, options } = this.view;
+    const isSpent = Math.abs(this.wheel) === Infinity && event.timeStamp - this.wheelTime <= WHEEL_PAUSE_MILLISECONDS;
+    const turns = options.wheelTurns && (isSpent || this.view.canTurn(Math.sign(pushOf(event, options.rightToLeft))));
     // What is not used here scrolls the page around the book.
-    if (!event.ctrlKey && zoom.scale <= 1 && !options.wheelTurns) return;
+    if (!event.ctrlKey && zoom.scale <= 1 && !turns) return;
     event.preventDefault();
     const unit = wheelUnit(event);
     if (event.ctrlKey) zoomByWheel(this.view, event);

@@ -38,5 +38,6 @@ test('ranges take numbers and labels, in any order, each page once', () => {
   assert.deepEqual(counted.findRange('5, 1-3,2'), [1, 2, 3, 5]);
   assert.deepEqual(counted.findRange('4–2'), [2, 3, 4]);
   assert.deepEqual(labelled.findRange('i-2, A-1'), [2, 3, 4, 5, 6]);
+  assert.deepEqual(labelled.findRange('2–A-1'), [5, 6], 'one of the hyphens is the one between');
   for (const text of ['', ',', '1-', '1-2-3', '5-9', 'x']) assert.equal(counted.findRange(text), undefined, text);
 });

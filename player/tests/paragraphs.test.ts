@@ -34,6 +34,11 @@ test('words cut at the end of a line are whole again', () => {
   assert.equal(isBroken('well-', 'Known'), false);
 });
 
+test('lines in scripts without blanks are joined without one', () => {
+  assert.deepEqual(read(at('新しい東京', 1), at('都庁へ、', 2), at('2026年', 3)), ['新しい東京都庁へ、 2026年']);
+  assert.deepEqual(read(at('一片树叶', 1), at('落下。', 2)), ['一片树叶落下。']);
+});
+
 test('a large initial belongs to its word', () => {
   assert.deepEqual(read(at('T', 1, 0.1, 0.05), at('he willow', 1, 0.16), at('beds lie', 2, 0.16), at('low.', 3)), [
     'The willow beds lie low.',

@@ -27,10 +27,12 @@ test('the player reads what the writer writes', async () => {
   assert.deepEqual(Array.from(await texts.linesOf(3)), []);
 });
 
-test('reader data that is switched off, or of another version, is left alone', () => {
+test('reader data that is switched off, of another version or damaged is left alone', () => {
   const config = { totalPageCount: 2, normalPath: 'files/page/' };
   const data = readData();
-  for (const book of [readBook({ ...config, readerData: 'NO' }, data), readBook({ ...config, readerData: 'YES' }, { ...data, version: 1 })]) {
+  const damaged = [{ version: 1 }, { pages: undefined }, { pages: [null] }, { pages: [{ label: '1' }] }, { outline: {} }, { textStarts: undefined }];
+  const read = damaged.map((fault) => readBook({ ...config, readerData: 'YES' }, { ...data, ...fault } as unknown as BookData));
+  for (const book of [readBook({ ...config, readerData: 'NO' }, data), ...read]) {
     assert.deepEqual(book.pages.map(({ image }) => image), ['files/page/1.jpg', 'files/page/2.jpg']);
     assert.deepEqual(book.textStarts, []);
   }

@@ -43,6 +43,25 @@ test('case, accents, ligatures and width make no difference', async () => {
     assert.deepEqual(await matches(query!, text!), [text], `${query} in ${text}`);
 });
 
+test('marks that make another letter make a difference', async () => {
+  for (const [query, text] of [
+    ['か', 'が'],
+    ['ハ', 'バ'],
+    ['कल', 'कला'],
+    ['कम', 'कुम'],
+    ['กน', 'กิน'],
+  ])
+    assert.deepEqual(await matches(query!, text!), [], `${query} is not in ${text}`);
+  assert.deepEqual(await matches('ガ', 'ｶﾞ'), ['ｶﾞ']);
+  assert.deepEqual(await matches('שלום', 'שָׁלוֹם'), ['שָׁלוֹם']);
+});
+
+test('scripts without blanks have none at the end of a line', async () => {
+  assert.deepEqual(await matches('東京都庁', '新しい東京', '都庁へ'), ['新しい東京都庁へ']);
+  assert.deepEqual(await matches('树叶', '一片树', '叶。'), ['一片树叶。']);
+  assert.deepEqual(await matches('나무 잎', '큰 나무', '잎이'), ['나무 잎이']);
+});
+
 test('a query of blanks, or of what is not there, finds nothing', async () => {
   for (const query of ['', '  ', '\t', 'maple', 'oak tree leaf'])
     assert.deepEqual(await matches(query, 'The oak tree'), []);

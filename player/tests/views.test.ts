@@ -144,6 +144,11 @@ test('the strip gives a little beyond its ends and comes back', () => {
   assert.equal(motion.destination, 3);
 });
 
+test('paper is white unless a colour is configured', () => {
+  for (const [pageColor, colour] of [['#F0e0d0', '#F0e0d0'], ['', '#ffffff'], ['sand', '#ffffff'], ['#12', '#ffffff']])
+    assert.equal(readSettings({ pageColor }).paperColour, colour);
+});
+
 test('a view has the controls that it has a use for, unless they are switched off', () => {
   const shown = (kind: 'book' | 'slide' | 'scroll', config = {}) => {
     const { dots, viewMode, turnButtons, search } = readSettings(config, kind).shows;

@@ -124,6 +124,40 @@ describe('the book for everyone', () => {
       assert.deepEqual(hidden, []);
     });
 
+    it('brings links into sight that lie outside a zoomed page', async () => {
+      const page = await open({ hash: '#page/2' });
+      for (let step = 0; step < 3; step++) await page.keyboard.press('+');
+      const { hidden } = await tabThrough(page);
+      assert.deepEqual(hidden, []);
+      assert.deepEqual(await page.locator('.stage').evaluate(({ scrollLeft, scrollTop }) => [scrollLeft, scrollTop]), [0, 0]);
+    });
+
+    it('takes what the page field shows for a page, and forgets a wrong number that is left', async () => {
+      const page = await open(SPREAD);
+      const field = page.getByRole('textbox', { name: 'Page number' });
+      const state = () => field.evaluate(({ value, title, ariaInvalid }) => [value, title, ariaInvalid]);
+      await field.fill('99');
+      await field.press('Enter');
+      assert.deepEqual(await state(), ['99', 'There is no page 99.', 'true']);
+      await field.blur();
+      assert.deepEqual(await state(), ['4–5', '', null]);
+      await field.press('Enter');
+      assert.deepEqual(await state(), ['4–5', '', null]);
+      assert.equal(await page.evaluate(() => document.activeElement.getAttribute('aria-label')), 'Page 4');
+    });
+
+    it('leaves letters and signs alone where they are switched off, in the next book too', async () => {
+      const page = await open();
+      await page.keyboard.press('?');
+      await page.getByRole('checkbox', { name: 'Use letters, digits and signs as keys' }).uncheck();
+      await page.keyboard.press('Escape');
+      await page.reload();
+      assert.deepEqual(await turnWith(page, () => page.keyboard.press('ArrowRight')), [2, 3]);
+      for (const key of ['?', '+', '/']) await page.keyboard.press(key);
+      assert.equal(await page.locator('dialog, .panel').count(), 0);
+      assert.equal(await page.locator('.sheet').evaluate((sheet) => sheet.style.transform), '');
+    });
+
     it('skips to the page, and goes on there after a turn', async () => {
       const page = await open(SPREAD);
       const focused = () => page.evaluate(() => document.activeElement.getAttribute('aria-label'));
@@ -212,6 +246,26 @@ describe('the book for everyone', () => {
     assert.equal(await page.locator('.tool[title="Less motion"]').getAttribute('aria-pressed'), 'true');
   });
 
+  it('marks what was searched for until the reader is done with it', async () => {
+    const page = await open({ ...PHONE, ...SPREAD });
+    const marks = () => page.locator('.mark').count();
+    const choose = async () => {
+      await searchFor(page, 'leaf');
+      await page.locator('.hits button').first().tap();
+      await page.locator('.panel').waitFor({ state: 'detached' });
+      await openPages(page);
+      assert.ok(await marks() > 0);
+      assert.match(await page.evaluate(() => document.activeElement.getAttribute('aria-label')), /^Page/);
+    };
+    await choose();
+    await page.keyboard.press('Escape');
+    assert.equal(await marks(), 0);
+    await choose();
+    await press(page, 'Contents');
+    await page.keyboard.press('Escape');
+    assert.equal(await marks(), 0);
+  });
+
   it('can be seen in forced colours', async () => {
     const page = await open({ ...SPREAD, forcedColors: 'active' });
     await press(page, 'Contents');
@@ -229,23 +283,67 @@ describe('the book for everyone', () => {
     assert.ok(Math.min(...await colourAt(page, x, y)) > 200, 'the page keeps its own colours');
   });
 
+  const noPrinter = () => { window.print = () => (window.printed = document.querySelectorAll('.leafcast-print img').length); };
+  const printField = (page) => page.getByRole('textbox', { name: 'These pages' });
+  const printNote = (page) => page.getByRole('dialog').getByRole('status');
+
   it('prints the pages that were asked for, one a sheet', async () => {
     const page = await open({ hash: '#page/2' });
-    await page.evaluate(() => (window.print = () => (window.printed = document.querySelectorAll('.leafcast-print img').length)));
+    await page.evaluate(noPrinter);
     await press(page, 'Print');
-    const field = page.getByRole('textbox', { name: 'For example 1-4, 7' });
+    const field = printField(page);
     await field.fill('99');
     await page.keyboard.press('Enter');
-    assert.equal(await page.getByRole('dialog').getByRole('status').textContent(), 'Write page numbers such as 1-4, 7.');
+    assert.equal(await printNote(page).textContent(), 'Write page numbers such as 1-4, 7.');
     await field.fill('5-7, iii');
     await page.keyboard.press('Enter');
+    await page.keyboard.press('Enter');
     await page.waitForFunction(() => window.printed === 4);
-    const files = await page.locator('.leafcast-print img').evaluateAll((all) => all.map(({ src }) => src.split('/').at(-1)));
+    const files = await page.locator('.leafcast-print img').evaluateAll((pictures) => pictures.map((each) => each.src.split('/').at(-1)));
     assert.deepEqual(files, ['3.jpg', '5.jpg', '6.jpg', '7.jpg']);
     const sheets = (await page.pdf({ width: '600px', height: '800px' })).toString('latin1').match(/\/Type\s*\/Page\b/g);
     assert.equal(sheets.length, 4);
     await page.evaluate(() => window.dispatchEvent(new Event('afterprint')));
     await page.waitForFunction(() => !document.querySelector('dialog, .leafcast-print'));
+  });
+
+  it('says which pages it could not print', async () => {
+    const lacking = changedBook(book, { removed: ['files/page/5.jpg', 'files/page/7.jpg'] });
+    try {
+      const page = await openBook(browser, lacking);
+      await page.evaluate(noPrinter);
+      await press(page, 'Print');
+      await printField(page).fill('4-7');
+      await page.keyboard.press('Enter');
+      await page.waitForFunction(() => window.printed === 2);
+      await page.evaluate(() => window.dispatchEvent(new Event('afterprint')));
+      await page.waitForFunction(() => document.querySelector('dialog [role=status]').textContent.endsWith('missing: 5, 7'));
+      await printField(page).fill('7');
+      await page.keyboard.press('Enter');
+      await page.waitForFunction(() => document.querySelector('dialog [role=status]').textContent.endsWith('missing: 7'));
+      assert.equal(await page.evaluate(() => window.printed), 2, 'no empty sheet');
+    } finally {
+      removeBook(lacking);
+    }
+  });
+
+  it('prints nothing once the dialog is closed', async () => {
+    const page = await open();
+    await page.evaluate(noPrinter);
+    await page.evaluate(() => {
+      const { set } = Object.getOwnPropertyDescriptor(HTMLElement.prototype, 'onload');
+      const hold = (listener) => () => { window.arrive = listener; };
+      // What is printed has a name, the pictures of the player have none.
+      Object.defineProperty(HTMLImageElement.prototype, 'onload', { set(listener) { set.call(this, this.alt ? hold(listener) : listener); } });
+    });
+    await press(page, 'Print');
+    await printField(page).fill('8');
+    await page.keyboard.press('Enter');
+    await page.waitForFunction(() => window.arrive);
+    await page.keyboard.press('Escape');
+    await page.locator('dialog').waitFor({ state: 'detached' });
+    await page.evaluate(() => window.arrive());
+    assert.deepEqual(await page.evaluate(() => [window.printed, document.querySelectorAll('.leafcast-print').length]), [undefined, 0]);
   });
 
   it('prints the open pages, and them alone, by the command of the browser too', async () => {

@@ -53,6 +53,14 @@ for (const [name, addressIn] of Object.entries(WAYS))
       assert.deepEqual(page.troubles, []);
     });
 
+    it('gives the text of a page to who does not see it, whenever its picture comes', async () => {
+      const page = await browser.newPage();
+      await page.route(/page\/5\.jpg/, () => {}); // never answered
+      await page.goto(`${home}index.html#page/4`, { waitUntil: 'commit' });
+      await page.locator('.page[data-place="4"] .spoken p').first().waitFor({ state: 'attached' });
+      await page.locator('.page[data-place="5"] .spoken p').first().waitFor({ state: 'attached' });
+    });
+
     it('offers a page whose picture is missing anew, and shows it when it is there', async () => {
       const [picture, aside] = [join(book, 'files/page/5.jpg'), join(book, 'aside.jpg')];
       renameSync(picture, aside);

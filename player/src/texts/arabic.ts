@@ -50,6 +50,7 @@ export const arabic: Texts = {
   printExample: 'مثال: 1-4, 7',
   printWrong: 'اكتب أرقام الصفحات مثل 1-4, 7.',
   printing: 'جارٍ تجهيز الصفحات…',
+  printMissing: 'تعذّر تحميل هذه الصفحات فلم تُدرج: {0}',
   share: 'مشاركة',
   shareAddress: 'عنوان هذه الصفحة',
   shareEmbed: 'شيفرة لتضمين الكتاب',
@@ -68,5 +69,6 @@ export const arabic: Texts = {
   keyPan: 'التنقل داخل صفحة مكبّرة',
   blackScreen: 'شاشة سوداء',
   keyClose: 'إغلاق اللوحة',
+  characterKeys: 'استخدام مفاتيح الحروف والأرقام والرموز',
   newWindow: '{0} (نافذة جديدة)',
 };

@@ -50,6 +50,7 @@ export const chinese: Texts = {
   printExample: '例如 1-4, 7',
   printWrong: '请输入页码，例如 1-4, 7。',
   printing: '正在准备页面…',
+  printMissing: '以下页面无法加载，未包含在内：{0}',
   share: '分享',
   shareAddress: '本页地址',
   shareEmbed: '网页嵌入代码',
@@ -68,5 +69,6 @@ export const chinese: Texts = {
   keyPan: '在放大的页面上移动',
   blackScreen: '黑屏',
   keyClose: '关闭面板',
+  characterKeys: '使用字母、数字和符号键',
   newWindow: '{0}（新窗口）',
 };

@@ -50,6 +50,7 @@ export const english = {
   printExample: 'For example 1-4, 7',
   printWrong: 'Write page numbers such as 1-4, 7.',
   printing: 'Preparing the pages …',
+  printMissing: 'These pages could not be loaded and are missing: {0}',
   share: 'Share',
   shareAddress: 'Address of this page',
   shareEmbed: 'Code for a web page',
@@ -68,6 +69,7 @@ export const english = {
   keyPan: 'Move over a zoomed page',
   blackScreen: 'Black screen',
   keyClose: 'Close a panel',
+  characterKeys: 'Use letters, digits and signs as keys',
   newWindow: '{0} (new window)',
 };
 

@@ -50,6 +50,7 @@ export const french: Texts = {
   printExample: 'Par exemple 1-4, 7',
   printWrong: 'Indiquez des pages, par exemple 1-4, 7.',
   printing: 'Préparation des pages …',
+  printMissing: 'Ces pages n’ont pas pu être chargées et manquent : {0}',
   share: 'Partager',
   shareAddress: 'Adresse de cette page',
   shareEmbed: 'Code pour une page web',
@@ -68,5 +69,6 @@ export const french: Texts = {
   keyPan: 'Parcourir une page agrandie',
   blackScreen: 'Écran noir',
   keyClose: 'Fermer un volet',
+  characterKeys: 'Lettres, chiffres et signes comme raccourcis',
   newWindow: '{0} (nouvelle fenêtre)',
 };

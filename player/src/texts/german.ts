@@ -50,6 +50,7 @@ export const german: Texts = {
   printExample: 'Zum Beispiel 1-4, 7',
   printWrong: 'Bitte Seitenzahlen wie 1-4, 7 angeben.',
   printing: 'Seiten werden vorbereitet …',
+  printMissing: 'Diese Seiten ließen sich nicht laden und fehlen: {0}',
   share: 'Teilen',
   shareAddress: 'Adresse dieser Seite',
   shareEmbed: 'Code für eine Webseite',
@@ -68,5 +69,6 @@ export const german: Texts = {
   keyPan: 'Über eine vergrößerte Seite bewegen',
   blackScreen: 'Schwarzer Bildschirm',
   keyClose: 'Bereich schließen',
+  characterKeys: 'Buchstaben, Ziffern und Zeichen als Tasten',
   newWindow: '{0} (neues Fenster)',
 };

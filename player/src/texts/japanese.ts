@@ -50,6 +50,7 @@ export const japanese: Texts = {
   printExample: '例：1-4, 7',
   printWrong: '1-4, 7 のように入力してください。',
   printing: 'ページを準備しています…',
+  printMissing: '読み込めなかったため含まれていないページ：{0}',
   share: '共有',
   shareAddress: 'このページのアドレス',
   shareEmbed: '埋め込みコード',
@@ -68,5 +69,6 @@ export const japanese: Texts = {
   keyPan: '拡大したページの中を移動',
   blackScreen: '黒い画面',
   keyClose: 'パネルを閉じる',
+  characterKeys: '文字・数字・記号のキーを使う',
   newWindow: '{0}（新しいウィンドウ）',
 };

@@ -50,6 +50,7 @@ export const spanish: Texts = {
   printExample: 'Por ejemplo 1-4, 7',
   printWrong: 'Escriba páginas como 1-4, 7.',
   printing: 'Preparando las páginas…',
+  printMissing: 'No se pudieron cargar estas páginas y faltan: {0}',
   share: 'Compartir',
   shareAddress: 'Dirección de esta página',
   shareEmbed: 'Código para una página web',
@@ -68,5 +69,6 @@ export const spanish: Texts = {
   keyPan: 'Recorrer una página ampliada',
   blackScreen: 'Pantalla en negro',
   keyClose: 'Cerrar un panel',
+  characterKeys: 'Letras, cifras y signos como atajos',
   newWindow: '{0} (ventana nueva)',
 };
