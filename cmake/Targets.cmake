@@ -11,6 +11,13 @@ function(leafcast_library name)
     PRIVATE leafcast_compiler ${ARG_PRIVATE_LINKS})
 endfunction()
 
+# leafcast_ui_library(NAME ...), arguments as above: a folder with windows.
+function(leafcast_ui_library name)
+  leafcast_library(${name} ${ARGN})
+  set_target_properties(leafcast_${name} PROPERTIES AUTOMOC ON)
+  target_link_libraries(leafcast_${name} PUBLIC Qt6::Widgets)
+endfunction()
+
 # leafcast_test(NAME SOURCES ... LINKS ...)
 # One GoogleTest program a folder of tests, with each of its cases known to CTest.
 function(leafcast_test name)
@@ -27,4 +34,10 @@ function(leafcast_test name)
     PROPERTIES
       ENVIRONMENT "LEAFCAST_RESOURCES=${PROJECT_BINARY_DIR}/share/leafcast"
       ENVIRONMENT_MODIFICATION "LEAFCAST_PDF_SERVICE=set:${PROJECT_BINARY_DIR}/bin/leafcast-pdf")
+endfunction()
+
+# leafcast_ui_test(NAME ...), arguments as above: the tests of windows, which show themselves nowhere.
+function(leafcast_ui_test name)
+  leafcast_test(${name} ${ARGN})
+  target_link_libraries(${name}_test PRIVATE leafcast_application_main Qt6::Test)
 endfunction()
