@@ -148,16 +148,16 @@ export class Reader extends Emitter<ReaderEvents> {
 
   /** Whether a page's picture is there. */
   hasPicture(place: number): boolean {
-    return this.view.pictures.hasPicture(place);
+    return this.view.hasPicture(place);
   }
 
   /** Whether it could not be loaded. */
   hasFailed(place: number): boolean {
-    return this.view.pictures.hasFailed(place);
+    return this.view.hasFailed(place);
   }
 
   retry(place: number): void {
-    this.view.pictures.retry(place);
+    this.view.retry(place);
   }
 
   /** Nothing is told any more, and nothing more can be asked. */

@@ -45,20 +45,21 @@ namespace {
         return isScriptNumber(value) ? QString() : u"its value \"%1\" is not a number"_s.arg(value);
     }
 
-    QString hazardOf(const ScriptEntry& entry)
-    {
-        if (!isIdentifier(entry.key))
-            return u"its key is not a name that a script can hold"_s;
-        return entry.isQuoted ? whyNoText(entry.value) : whyNoNumber(entry.value);
-    }
-
 } // namespace
+
+QString scriptHazardOf(const FlashTemplateProperty& property)
+{
+    const ScriptEntry entry(property);
+    if (!isIdentifier(entry.key))
+        return u"its key is not a name that a script can hold"_s;
+    return entry.isQuoted ? whyNoText(entry.value) : whyNoNumber(entry.value);
+}
 
 std::vector<ScriptHazard> scriptHazards(const FlashTemplateProperties& properties)
 {
     std::vector<ScriptHazard> found;
     forEachProperty(properties, [&found](const FlashTemplateProperty& property) {
-        const QString reason = hazardOf(ScriptEntry(property));
+        const QString reason = scriptHazardOf(property);
         if (!reason.isEmpty())
             found.push_back({ property.key(), reason });
     });

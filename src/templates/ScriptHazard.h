@@ -18,6 +18,9 @@ struct ScriptHazard {
 /// property.
 std::vector<ScriptHazard> scriptHazards(const FlashTemplateProperties& properties);
 
+/// The hazard of one property alone; empty for none.
+QString scriptHazardOf(const FlashTemplateProperty& property);
+
 /// Whether a script reads the text as one finite number: decimal without needless leading zeros
 /// (those would be octal), or hexadecimal behind "0x".
 bool isScriptNumber(QStringView text);

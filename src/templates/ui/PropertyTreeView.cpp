@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "templates/ui/PropertyTreeView.h"
+
+#include "templates/ui/FlashTemplateOutlineDelegate.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+
+namespace leafcast {
+
+namespace {
+
+    constexpr int indentationPoints = 8;
+
+} // namespace
+
+PropertyTreeView::PropertyTreeView(QWidget* parent)
+    : QTreeView(parent)
+{
+    setIndentation(indentationPoints);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setHeaderHidden(true);
+    setMouseTracking(true);
+    setEditTriggers(EditKeyPressed | SelectedClicked | DoubleClicked | AnyKeyPressed);
+}
+
+void PropertyTreeView::arrangeRows()
+{
+    expandAll();
+    spanGroups({});
+}
+
+void PropertyTreeView::spanGroups(const QModelIndex& parent)
+{
+    for (int row = 0; row < model()->rowCount(parent); ++row) {
+        const QModelIndex index = model()->index(row, 0, parent);
+        const auto* property = FlashTemplateOutlineDelegate::propertyAt(index);
+        setFirstColumnSpanned(row, parent, property && property->propertyType() == pt_composite);
+        spanGroups(index);
+    }
+}
+
+bool PropertyTreeView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    const bool isKey = event && event->type() == QEvent::KeyPress;
+    const bool isRowEdit = isKey || trigger == DoubleClicked || trigger == EditKeyPressed;
+    const QModelIndex value = index.siblingAtColumn(FlashTemplateOutlineDelegate::ValueColumn);
+    if (!isRowEdit || !value.isValid())
+        return QTreeView::edit(index, trigger, event);
+    // The view closes the editor of its current index when that changes, and no other.
+    selectionModel()->setCurrentIndex(value, QItemSelectionModel::NoUpdate);
+    return QTreeView::edit(value, trigger, event);
+}
+
+void PropertyTreeView::keyPressEvent(QKeyEvent* event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && state() != EditingState && edit(currentIndex(), EditKeyPressed, event))
+        return;
+    QTreeView::keyPressEvent(event);
+}
+
+} // namespace leafcast
