@@ -43,6 +43,14 @@ export class BookPictures {
     return width > 0 && height > 0 ? width / height : this.book.shape;
   }
 
+  hasPicture(place: number): boolean {
+    return this.pictures.has(place);
+  }
+
+  retry(place: number): void {
+    this.pictures.retry(place);
+  }
+
   hasFailed(place: number): boolean {
     const hasNoFile = this.book.hasPageList && this.book.pages[place - 1]?.width === 0;
     return hasNoFile || this.pictures.hasFailed(place);

@@ -43,7 +43,7 @@ const NEAR_AFTER_A_TURN = [1, 2, -1];
 export class BookView implements View {
   private readonly sheetPlace = new SheetPlace();
   private readonly sides = new RestingSides();
-  private readonly pictures: BookPictures;
+  readonly pictures: BookPictures;
   private readonly leaves: FlyingLeaves;
   private readonly sharp: SharpView;
   private readonly edges: PageEdges;
@@ -195,23 +195,11 @@ export class BookView implements View {
     this.tellTurned();
   }
 
-  retry(place: number): void {
-    this.pictures.pictures.retry(place);
-  }
-
   destroy(): void {
     this.unfollow?.();
     this.turning.stop();
     this.sharp.clear();
     this.pictures.pictures.close();
-  }
-
-  hasPicture(place: number): boolean {
-    return this.pictures.pictures.has(place);
-  }
-
-  hasFailed(place: number): boolean {
-    return this.pictures.hasFailed(place);
   }
 
   private sharpen(): void {

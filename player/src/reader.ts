@@ -148,16 +148,16 @@ export class Reader extends Emitter<ReaderEvents> {
 
   /** Whether a page's picture is there. */
   hasPicture(place: number): boolean {
-    return this.view.hasPicture(place);
+    return this.view.pictures.hasPicture(place);
   }
 
   /** Whether it could not be loaded. */
   hasFailed(place: number): boolean {
-    return this.view.hasFailed(place);
+    return this.view.pictures.hasFailed(place);
   }
 
   retry(place: number): void {
-    this.view.retry(place);
+    this.view.pictures.retry(place);
   }
 
   /** Nothing is told any more, and nothing more can be asked. */

@@ -41,7 +41,7 @@ export class ScrollView implements View {
   readonly sheet = create('div', { className: 'sheet' });
   readonly isDouble = false;
   private readonly spacer = create('div');
-  private readonly pictures: BookPictures;
+  readonly pictures: BookPictures;
   private readonly sharp: SharpView;
   private readonly canvases = new Map<number, HTMLCanvasElement>(); // by place
   private column: Column = { boxes: [], width: 0, height: 0 };
@@ -130,18 +130,6 @@ export class ScrollView implements View {
     this.sharp.clear();
     this.scrolled();
     this.events.zoomed(this.zoom);
-  }
-
-  hasPicture(place: number): boolean {
-    return this.pictures.pictures.has(place);
-  }
-
-  hasFailed(place: number): boolean {
-    return this.pictures.hasFailed(place);
-  }
-
-  retry(place: number): void {
-    this.pictures.pictures.retry(place);
   }
 
   destroy(): void {

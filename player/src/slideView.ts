@@ -30,7 +30,7 @@ const NOTHING: Size = { width: 0, height: 0 };
 export class SlideView implements View {
   readonly sheet = create('div', { className: 'sheet' });
   readonly isDouble = false;
-  private readonly pictures: BookPictures;
+  readonly pictures: BookPictures;
   private readonly sharp: SharpView;
   private readonly slides = new Map<number, HTMLCanvasElement>(); // by place
   private readonly ticker = new Ticker((seconds) => this.step(seconds));
@@ -134,18 +134,6 @@ export class SlideView implements View {
     if (scale > 1) this.sharp.showSoon([this.placed()], seenBox(this.zoomed, space), scale);
     else this.sharp.clear();
     this.events.zoomed(this.zoomed);
-  }
-
-  hasPicture(place: number): boolean {
-    return this.pictures.pictures.has(place);
-  }
-
-  hasFailed(place: number): boolean {
-    return this.pictures.hasFailed(place);
-  }
-
-  retry(place: number): void {
-    this.pictures.pictures.retry(place);
   }
 
   destroy(): void {

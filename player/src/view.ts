@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+import type { BookPictures } from './bookPictures.ts';
 import type { Mode } from './layout.ts';
 import type { PlacedPage } from './sharpView.ts';
 import type { Zoom } from './zoom.ts';
@@ -29,6 +30,7 @@ export interface ViewEvents {
  */
 export interface View {
   readonly host: HTMLElement;
+  readonly pictures: Pick<BookPictures, 'hasPicture' | 'hasFailed' | 'retry'>;
   /** Tells what lies open, and follows the size of the stage from now on. To be called once. */
   start(): void;
   /** What pages lie on; layers over them go into it. */
@@ -50,9 +52,6 @@ export interface View {
   setMode?(mode: Mode): void;
   setReducedMotion(reduced: boolean): void;
   setZoom(zoom: Zoom): void;
-  hasPicture(place: number): boolean;
-  hasFailed(place: number): boolean;
-  retry(place: number): void;
   /** Stops whatever moves or is loaded, and frees it. Nothing else may be asked of the view then. */
   destroy(): void;
 }
