@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 import assert from 'node:assert/strict';
-import { renameSync } from 'node:fs';
+import { renameSync, writeFileSync } from 'node:fs';
 import { join } from 'node:path';
 import { after, afterEach, before, describe, it } from 'node:test';
 import { pathToFileURL } from 'node:url';
@@ -61,9 +61,10 @@ for (const [name, addressIn] of Object.entries(WAYS))
       await page.locator('.page[data-place="5"] .spoken p').first().waitFor({ state: 'attached' });
     });
 
-    it('offers a page whose picture is missing anew, and shows it when it is there', async () => {
+    for (const fault of ['missing', 'damaged']) it(`offers a page whose picture is ${fault} anew, and shows it when it is there`, async () => {
       const [picture, aside] = [join(book, 'files/page/5.jpg'), join(book, 'aside.jpg')];
       renameSync(picture, aside);
+      if (fault === 'damaged') writeFileSync(picture, 'Service is not available.');
       const page = await open({ hash: '#page/4' });
       await page.locator('.missing').waitFor();
       assert.equal(await page.locator('.missing .label').textContent(), '5');

@@ -3,7 +3,7 @@ import assert from 'node:assert/strict';
 import { after, afterEach, before, describe, it } from 'node:test';
 import { launchBrowser } from '../../tools/browser.mjs';
 import { TEMPLATES } from '../../tools/templates/templates.mjs';
-import { destination, openBook, openPages, publishMagazine, removeBook, variantOf } from './support.mjs';
+import { colourAt, destination, openBook, openPages, publishMagazine, removeBook, variantOf } from './support.mjs';
 
 const TITLE = 'Hornbeam No. 7: Trees, leaves and things made by hand';
 
@@ -36,17 +36,7 @@ const stopClock = (page) => page.clock.install();
 const runClock = (milliseconds) => (page) => page.clock.runFor(milliseconds);
 const isStill = (page) => page.locator('.air').isHidden();
 
-async function colourAboveAWidePage(page) {
-  const picture = await page.screenshot({ clip: { x: 640, y: 100, width: 1, height: 1 } });
-  const blank = await page.context().newPage();
-  const channels = await blank.evaluate(async (base64) => {
-    const bytes = Uint8Array.from(atob(base64), (each) => each.charCodeAt(0));
-    const context = new OffscreenCanvas(1, 1).getContext('2d');
-    context.drawImage(await createImageBitmap(new Blob([bytes])), 0, 0);
-    return [...context.getImageData(0, 0, 1, 1).data].slice(0, 3);
-  }, picture.toString('base64'));
-  return channels.join();
-}
+const colourAboveAWidePage = (page) => colourAt(page, 640, 100);
 
 /** What is seen of a cover that is held in mid-turn, once it hangs still. */
 async function heldCover(page) {
