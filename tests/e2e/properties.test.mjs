@@ -53,6 +53,7 @@ async function heldCover(page) {
 async function reopen(page) {
   await page.keyboard.press('End');
   await openPages(page);
+  await page.waitForFunction(() => location.hash === '#page/16');
   const [address] = page.url().split('#');
   await page.goto('about:blank');
   await page.goto(address);
@@ -74,6 +75,11 @@ const LOGO = 'files/page/2.jpg';
 const NO_PICTURES = { readerData: 'NO', largePageWidth: 0, largePageHeight: 0, pageWidth: 900, pageHeight: 1200 };
 const [BAR, INK] = ['rgb(247, 244, 237)', 'rgb(74, 68, 58)'];
 
+const coloursOf = (selector) => [
+  ['toolBarColor', '#405060', styles(selector, 'backgroundColor'), BAR, 'rgb(64, 80, 96)'],
+  ['toolBarTextColor', '#a0b0c0', styles(selector, 'color'), INK, 'rgb(160, 176, 192)'],
+];
+
 /** Key, value, what is looked at, what that is without the value, and with it. All of them are set at once. */
 const IN_THE_BOOK = [
   ['bookTitle', 'Herbst', heading, TITLE, 'Herbst'],
@@ -82,16 +88,16 @@ const IN_THE_BOOK = [
   ['backgroundColor', '#102030', styles('.leafcast', 'backgroundColor'), 'rgb(230, 225, 214)', 'rgb(16, 32, 48)'],
   ['bgImageURL', LOGO, styles('.leafcast', 'backgroundImage'), /files\/extfile\/bgImageURL\.png/, /files\/page\/2\.jpg/],
   ['bgImagePosition', 'Fill', styles('.leafcast', 'backgroundSize'), 'auto', 'cover'],
-  ...['.bar', '.foot', '.next'].flatMap((selector) => [
-    ['toolBarColor', '#405060', styles(selector, 'backgroundColor'), BAR, 'rgb(64, 80, 96)'],
-    ['toolBarTextColor', '#a0b0c0', styles(selector, 'color'), INK, 'rgb(160, 176, 192)'],
-  ]),
+  ...['.bar', '.foot'].flatMap(coloursOf),
   ['LogoFile', LOGO, styles('.bar .logo img', 'height'), '', '36px'],
   ['LogoFile', LOGO, attributes('.bar .logo img', 'src'), '', LOGO],
   ['appLogoLinkURL', 'http://www.example.org', attributes('.bar a.logo', 'href'), '', 'http://www.example.org'],
   ['OpenWindow', '_self', attributes('.bar a.logo', 'target'), '', '_self'],
   ['OpenWindow', '_self', attributes('.link[href^=http]', 'target'), '_blank', '_self'],
   ['languageSetting', 'Arabic', attributes('html', 'lang'), 'fr', 'ar'],
+];
+const BESIDE_THE_BOOK = [
+  ...coloursOf('.next'),
   ['languageSetting', 'Arabic', lieOfInterface, 'ltr, on to the right', 'rtl, on to the right'],
 ];
 const AT_THE_COVER = [
@@ -131,51 +137,93 @@ const CONTROLS = {
   fullScreenButtonVisible: ['button', 'Full screen'],
 };
 
+/** What a page that is on its way looks like, at its lower left. */
+async function colourOfALatePage(page) {
+  await page.evaluate(() => {
+    window.decode = createImageBitmap;
+    window.createImageBitmap = () => new Promise(() => {});
+  });
+  await page.keyboard.press('End');
+  await page.waitForFunction(() => location.hash === '#page/16' && !document.querySelector('.moving'));
+  await page.evaluate(() => { window.createImageBitmap = window.decode; });
+  const { x, y, height } = await page.locator('.page[data-place="16"]').boundingBox();
+  return colourAt(page, x + 12, y + height - 12);
+}
+
+/** Properties of the other views that their own tests look at. */
+const IN_TESTS_OF_VIEWS = {
+  slide: ['slideEffect', 'dotsVisible', 'rightToLeft', 'wheelTurns', 'turnDuration', 'keyboardControl', 'toolBarVisible'],
+  scroll: ['readingWidth', 'keyboardControl', 'toolBarVisible'],
+};
+/** As for "float", with what is to be seen where views differ. */
+const DEEDS_IN_VIEWS = ['pageWidth', 'pageHeight', 'rememberLastPage', 'autoTurnSeconds', 'linkColor', 'shareURL', 'readerData'];
+const PAPER_IN_VIEWS = ['pageColor', '#123456', colourOfALatePage, '255,255,255', '18,52,86'];
+
 function expect(seen, expected, key) {
   if (expected instanceof RegExp) assert.match(String(seen), expected, key);
   else assert.equal(String(seen), String(expected), key);
 }
 
+const leavesOf = (properties) => properties.flatMap(({ key, children }) => (children ? leavesOf(children) : [key]));
+const keysOf = (template) => leavesOf(TEMPLATES.find(({ name }) => name === template).properties);
+
+let browser, book;
+const books = [];
+
+before(async () => {
+  browser = await launchBrowser();
+});
+
+afterEach(() => Promise.all(browser.contexts().map((context) => context.close())));
+
+after(async () => {
+  await browser?.close();
+  books.forEach(removeBook);
+});
+
+function publishBook(...options) {
+  book = publishMagazine(...options);
+  books.push(book);
+}
+
+async function see(look, settings, { width = 1280, height = 800, hash, locale } = {}) {
+  books.push(variantOf(book, settings));
+  const context = await browser.newContext({ viewport: { width, height }, locale });
+  await context.addInitScript(() => {
+    window.rustles = 0;
+    AudioBufferSourceNode.prototype.start = () => window.rustles++;
+  });
+  const page = await openBook(context, books.at(-1), { hash });
+  if (settings.largePageWidth !== 0) await openPages(page);
+  const seen = await look(page);
+  assert.deepEqual(page.troubles, []);
+  return seen;
+}
+
+const lookAtAll = (rows) => async (page) => {
+  const seen = [];
+  for (const [, , look] of rows) seen.push(await look(page));
+  return seen;
+};
+
+const countControls = (controls) => async (page) => {
+  const found = controls.map(async ([key, [role, name]]) => [key, await page.getByRole(role, { name }).count()]);
+  return Object.fromEntries(await Promise.all(found));
+};
+
+async function findControlsAreSwitched(controls) {
+  const each = (value) => Object.fromEntries(controls.map(([key]) => [key, value]));
+  assert.deepEqual(await see(countControls(controls), each('YES')), each(1));
+  assert.deepEqual(await see(countControls(controls), each('NO')), each(0));
+}
+
 describe('each property of the template float does what it says:', () => {
-  let browser, book;
-  const books = [];
+  before(() => publishBook('--style', 'Wall-line'));
 
-  before(async () => {
-    book = publishMagazine('--style', 'Wall-line');
-    books.push(book);
-    browser = await launchBrowser();
-  });
-
-  afterEach(() => Promise.all(browser.contexts().map((context) => context.close())));
-
-  after(async () => {
-    await browser?.close();
-    books.forEach(removeBook);
-  });
-
-  async function see(look, settings, { width = 1280, height = 800, hash, locale } = {}) {
-    books.push(variantOf(book, settings));
-    const context = await browser.newContext({ viewport: { width, height }, locale });
-    await context.addInitScript(() => {
-      window.rustles = 0;
-      AudioBufferSourceNode.prototype.start = () => window.rustles++;
-    });
-    const page = await openBook(context, books.at(-1), { hash });
-    if (settings.largePageWidth !== 0) await openPages(page);
-    const seen = await look(page);
-    assert.deepEqual(page.troubles, []);
-    return seen;
-  }
-
-  const atRest = { 'what is seen in the book': [IN_THE_BOOK, { hash: '#page/12', locale: 'fr-CA' }], 'what is seen at the cover': [AT_THE_COVER, {}] };
+  const atRest = { 'what is seen in the book': [[...IN_THE_BOOK, ...BESIDE_THE_BOOK], { hash: '#page/12', locale: 'fr-CA' }], 'what is seen at the cover': [AT_THE_COVER, {}] };
   for (const [name, [rows, options]] of Object.entries(atRest))
     it(name, async () => {
-      const lookAtAll = async (page) => {
-        const seen = [];
-        for (const [, , look] of rows) seen.push(await look(page));
-        return seen;
-      };
-      const [before, changed] = [await see(lookAtAll, {}, options), await see(lookAtAll, Object.fromEntries(rows), options)];
+      const [before, changed] = [await see(lookAtAll(rows), {}, options), await see(lookAtAll(rows), Object.fromEntries(rows), options)];
       for (const [index, [key, , , without, with_]] of rows.entries()) {
         expect(before[index], without, key);
         expect(changed[index], with_, key);
@@ -191,19 +239,47 @@ describe('each property of the template float does what it says:', () => {
     });
 
   it('every control is shown until it is switched off', async () => {
-    const counts = async (page) => {
-      const found = Object.entries(CONTROLS).map(async ([key, [role, name]]) => [key, await page.getByRole(role, { name }).count()]);
-      return Object.fromEntries(await Promise.all(found));
-    };
-    const each = (value) => Object.fromEntries(Object.keys(CONTROLS).map((key) => [key, value]));
-    assert.deepEqual(await see(counts, {}), each(1));
-    assert.deepEqual(await see(counts, each('NO')), each(0));
+    const controls = Object.entries(CONTROLS);
+    assert.deepEqual(await see(countControls(controls), {}), Object.fromEntries(controls.map(([key]) => [key, 1])));
+    await findControlsAreSwitched(controls);
   });
 
   it('none is left out here', () => {
-    const leaves = (properties) => properties.flatMap(({ key, children }) => (children ? leaves(children) : [key]));
-    const float = TEMPLATES.find(({ name }) => name === 'float');
     const looked = new Set([...IN_THE_BOOK, ...AT_THE_COVER, ...BY_DEEDS].map(([key]) => key).concat(Object.keys(CONTROLS)));
-    assert.deepEqual(leaves(float.properties).filter((key) => !looked.has(key)), []);
+    assert.deepEqual(keysOf('float').filter((key) => !looked.has(key)), []);
   });
 });
+
+for (const template of ['slide', 'scroll'])
+  describe(`each property of the template ${template} does what it says:`, () => {
+    const has = ([key]) => keysOf(template).includes(key);
+    const atRest = [...IN_THE_BOOK, ...(template === 'slide' ? BESIDE_THE_BOOK : [])].filter(has);
+    const deeds = [...BY_DEEDS.filter(([key]) => DEEDS_IN_VIEWS.includes(key)), PAPER_IN_VIEWS].filter(has);
+    const controls = Object.entries(CONTROLS).filter(has);
+
+    before(() => publishBook('--template', template));
+
+    it('what is seen in the book', async () => {
+      const options = { hash: '#page/12', locale: 'fr-CA' };
+      const settings = Object.fromEntries(atRest);
+      const [before, changed] = [await see(lookAtAll(atRest), {}, options), await see(lookAtAll(atRest), settings, options)];
+      for (const [index, [key, , , , with_]] of atRest.entries()) {
+        assert.notEqual(String(changed[index]), String(before[index]), key);
+        expect(changed[index], with_, key);
+      }
+    });
+
+    for (const [key, value, look, , with_, given = {}, options = {}] of deeds)
+      it(`${key} ${value}`, async () => {
+        const [before, changed] = [await see(look, given, options), await see(look, { ...given, [key]: value }, options)];
+        assert.notEqual(String(changed), String(before));
+        expect(changed, with_);
+      });
+
+    it('every control can be switched off', () => findControlsAreSwitched(controls));
+
+    it('none is left out here or in the tests of the views', () => {
+      const looked = [...atRest, ...deeds, ...controls].map(([key]) => key).concat(IN_TESTS_OF_VIEWS[template]);
+      assert.deepEqual(keysOf(template).filter((key) => !looked.includes(key)), []);
+    });
+  });
