@@ -94,12 +94,18 @@ describe('a book of other shapes', () => {
 
     before(() => {
       const small = quick(COLOURS.slice(0, FILES).map((colour) => ({ ...PORTRAIT, colour })));
+      const links = [{ x: 0.1, y: 0.9, width: 0.2, height: 0.05, place: 7 }];
       const pages = Array.from({ length: 1000 }, (_, index) => (
-        { number: index + 1, label: String(index + 1), image: `files/page/${1 + (index % FILES)}.jpg`, ...PORTRAIT, links: [] }));
+        { number: index + 1, label: String(index + 1), image: `files/page/${1 + (index % FILES)}.jpg`, ...PORTRAIT, links }));
+      // Thirty lines a page, of ten words.
+      const words = Array.from({ length: 10 }, (_, word) => [word / 10, 0.5, 0.08, 0.02]);
+      const lines = Array.from({ length: 30 }, () => ({ text: 'e e e e e e e e e e', boxes: words }));
+      const text = `bookText(1, ${JSON.stringify(Array.from({ length: 1000 }, () => lines))});\n`;
       const chapterAt = (place) => ({ title: `Chapter at ${place}`, page: place, place, items: [] });
       const outline = Array.from({ length: 200 }, (_, index) => chapterAt(5 * index + 1));
-      const data = { version: 2, textStarts: [], pages, outline };
-      book = kept(changedBook(small, { files: { 'files/search/book.js': `var bookData = ${JSON.stringify(data)};\n` } }));
+      const data = { version: 2, textStarts: [1], pages, outline };
+      const script = `var bookData = ${JSON.stringify(data)};\n`;
+      book = kept(changedBook(small, { files: { 'files/search/book.js': script, 'files/search/text-1.js': text } }));
     });
 
     const nodes = (page) => page.evaluate(() => document.querySelectorAll('*').length);
@@ -120,6 +126,16 @@ describe('a book of other shapes', () => {
         assert.deepEqual(await coloursOf(page), wanted.map(fileOf));
         assert.ok(await nodes(page) < 400);
       }
+      assert.deepEqual(page.troubles, []);
+    });
+
+    it('is searched for one letter without many more', async () => {
+      const page = await openBook(browser, book, { hash: '#page/500' });
+      await openPages(page);
+      await page.keyboard.press('/');
+      await page.keyboard.type('e');
+      await page.waitForFunction(() => document.querySelector('.count').textContent === '300000 hits' && document.querySelector('.mark'));
+      assert.ok(await nodes(page) < 1000);
       assert.deepEqual(page.troubles, []);
     });
 
