@@ -74,6 +74,7 @@ export class BookPictures {
     // No more than the picture has.
     const isKnown = this.book.hasPageList && pixels > 0;
     putCanvas(canvas, box, isKnown ? Math.min(devicePixelRatio, pixels / box.width) : devicePixelRatio);
+    // Printing takes such canvases, and tests wait for them.
     canvas.dataset.drawn = this.pictures.get(place) ? String(place) : '';
     const context = canvas.getContext('2d')!;
     context.setTransform(canvas.width / box.width, 0, 0, canvas.height / box.height, 0, 0);

@@ -11,7 +11,9 @@ const THUMBNAIL_WIDTH = 208;
 export class Thumbnails {
   private readonly held = new Map<number, ImageBitmap>(); // in order of use, the last one last
   private readonly waiting: { readonly place: number; readonly canvas: HTMLCanvasElement }[] = [];
+  private readonly loading = new Map<number, Promise<ImageBitmap | undefined>>(); // for all canvases that ask meanwhile
   private running = 0;
+  private isOver = false;
 
   constructor(private readonly pages: readonly Page[]) {}
 
@@ -35,6 +37,7 @@ export class Thumbnails {
 
   /** Frees what is held; nothing more is loaded. */
   destroy(): void {
+    this.isOver = true;
     this.waiting.length = 0;
     for (const bitmap of this.held.values()) bitmap.close();
     this.held.clear();
@@ -47,22 +50,41 @@ export class Thumbnails {
     // Scrolled or moved on meanwhile.
     if (!isWanted(next.place, next.canvas)) return this.loadNext();
     this.running++;
-    const bitmap = this.held.get(next.place) ?? (await this.load(next.place).catch(() => undefined));
+    const bitmap = this.held.get(next.place) ?? (await this.loaded(next.place));
     this.running--;
     if (bitmap && isWanted(next.place, next.canvas)) this.show(next.place, bitmap, next.canvas);
     void this.loadNext();
     void this.loadNext();
   }
 
+  private loaded(place: number): Promise<ImageBitmap | undefined> {
+    const load = async () => {
+      const bitmap = await this.load(place).catch(() => undefined);
+      this.loading.delete(place);
+      if (this.isOver) bitmap?.close();
+      else if (bitmap) this.hold(place, bitmap);
+      return this.held.get(place);
+    };
+    const loading = this.loading.get(place) ?? load();
+    this.loading.set(place, loading);
+    return loading;
+  }
+
   private async load(place: number): Promise<ImageBitmap> {
     const source = await loadSource(this.pages[place - 1]!.image);
-    return createImageBitmap(source, { resizeWidth: THUMBNAIL_WIDTH, resizeQuality: 'medium' });
+    const small = createImageBitmap(source, { resizeWidth: THUMBNAIL_WIDTH, resizeQuality: 'medium' });
+    // A browser that can't resize here draws the whole picture smaller.
+    return small.catch(() => createImageBitmap(source));
   }
 
   private show(place: number, bitmap: ImageBitmap, canvas: HTMLCanvasElement): void {
+    this.hold(place, bitmap);
+    canvas.getContext('2d')!.drawImage(bitmap, 0, 0, canvas.width, canvas.height);
+  }
+
+  private hold(place: number, bitmap: ImageBitmap): void {
     this.held.delete(place);
     this.held.set(place, bitmap);
-    canvas.getContext('2d')!.drawImage(bitmap, 0, 0, canvas.width, canvas.height);
     for (const [oldest, each] of this.held) {
       if (this.held.size <= MOST_HELD) break;
       each.close();
