@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <QObject>
+#include <QThreadPool>
+
+namespace leafcast {
+
+/// Runs pieces of work one after the other on a thread of its own, and tells its owner's thread,
+/// which has an event loop, when each has ended. Destruction waits for what is under way; what has
+/// not been told by then never is.
+class BackgroundQueue {
+public:
+    BackgroundQueue();
+    ~BackgroundQueue();
+    BackgroundQueue(const BackgroundQueue&) = delete;
+    BackgroundQueue& operator=(const BackgroundQueue&) = delete;
+
+    /// An exception that the work lets out is logged, and counts as its end.
+    void add(std::function<void()> work, std::function<void()> done);
+
+    /// Nothing is under way, and all ends are told.
+    bool isEmpty() const { return iUntold == 0; }
+
+private:
+    QObject iReceiver; // lives on the owner's thread
+    QThreadPool iThread;
+    int iUntold = 0;
+};
+
+} // namespace leafcast
