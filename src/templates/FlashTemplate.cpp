@@ -55,6 +55,13 @@ FlashTemplate::OpenResult FlashTemplate::open(const QString& name)
     }
 }
 
+std::shared_ptr<FlashTemplate> FlashTemplate::copy() const
+{
+    auto made = std::make_shared<FlashTemplate>(*this);
+    made->setProperties(copyOf(iProperties));
+    return made;
+}
+
 TemplateLoadOutcome FlashTemplate::loadTemplate(const QString& tmplName)
 {
     iProperties.clear();

@@ -33,6 +33,9 @@ public:
     /// The template of that name, no style applied; never throws.
     [[nodiscard]] static OpenResult open(const QString& name);
 
+    /// With a tree of its own, for a writer on another thread.
+    std::shared_ptr<FlashTemplate> copy() const;
+
     // The library
     /// Full paths of all folders below the template library, at every depth.
     static QStringList tmplNames();

@@ -72,6 +72,34 @@ void FlashTemplateProperty::loadChildren(const XMLElement& element)
     }
 }
 
+std::shared_ptr<FlashTemplateProperty> FlashTemplateProperty::copy() const
+{
+    auto made = std::make_shared<FlashTemplateProperty>();
+    made->iPropertyType = iPropertyType;
+    made->iKey = iKey;
+    made->iTitle = iTitle;
+    made->iATitle = iATitle;
+    made->iDesc = iDesc;
+    made->iValue = iValue;
+    made->iValueSource = iValueSource;
+    made->iDefaultValue = iDefaultValue;
+    made->iReadOnly = iReadOnly;
+    made->iChildProperties = copyOf(iChildProperties);
+    for (const auto& child : made->iChildProperties)
+        if (child)
+            child->iParent = made.get();
+    return made;
+}
+
+FlashTemplateProperties copyOf(const FlashTemplateProperties& properties)
+{
+    FlashTemplateProperties copies;
+    copies.reserve(properties.size());
+    for (const auto& property : properties)
+        copies.push_back(property ? property->copy() : nullptr);
+    return copies;
+}
+
 void FlashTemplateProperty::setChildProperties(FlashTemplateProperties properties)
 {
     iChildProperties = std::move(properties);

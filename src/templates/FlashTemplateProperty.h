@@ -15,6 +15,9 @@ class FlashTemplateProperty;
 
 using FlashTemplateProperties = std::vector<std::shared_ptr<FlashTemplateProperty>>;
 
+/// Copies each property, empty slots included.
+FlashTemplateProperties copyOf(const FlashTemplateProperties& properties);
+
 /// A template's description that is XML but lacks what it must have.
 class MalformedTemplate : public NamedException {
 public:
@@ -42,6 +45,9 @@ public:
     /// Fills the node and everything below it from a "property" element; an element of another name
     /// changes nothing. Throws MalformedTemplate when a mandatory child element is missing.
     void loadFromNode(const XMLElement& element);
+
+    /// The node and everything below it, anew; without a parent.
+    std::shared_ptr<FlashTemplateProperty> copy() const;
 
     FlashTemplateProperty* parent() const { return iParent; }
     void setParent(FlashTemplateProperty* parent) { iParent = parent; }

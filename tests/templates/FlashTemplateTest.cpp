@@ -79,3 +79,29 @@ TEST_F(FlashTemplateTest, OpensATemplateByNameOrSaysWhyNot)
     EXPECT_EQ(FlashTemplate::open(u"bad"_s).flashTemplate, nullptr);
     EXPECT_EQ(FlashTemplate::open(u"bad"_s).outcome.reason, u"the element \"t\" has no \"info\"");
 }
+
+TEST_F(FlashTemplateTest, CopiesItsTreeWithEverythingThatAPropertySays)
+{
+    resources.addTemplate(u"float"_s,
+        "<property type=\"pt_file\"><key>k</key><title>t</title><desc>d</desc><value>v</value>"
+        "<valueSource>s</valueSource><defalutValue>f</defalutValue><aTitle>a</aTitle>"
+        "<childProperties>"
+            + property("pt_text", "child", "first") + "</childProperties></property>");
+    FlashTemplate flashTemplate;
+    flashTemplate.setStyleName(u"Sand"_s);
+    flashTemplate.properties().front()->setReadOnly(true);
+    const auto copy = flashTemplate.copy();
+    flashTemplate.setPropertyValue(u"k"_s, u"changed"_s);
+    flashTemplate.setPropertyValue(u"child"_s, u"changed"_s);
+    EXPECT_EQ(copy->styleName(), u"Sand");
+
+    const FlashTemplateProperty& group = *copy->properties().front();
+    EXPECT_EQ(group.key() + group.title() + group.desc() + group.value() + group.valueSource()
+            + group.defaultValue() + group.aTitle(),
+        u"ktdvsfa");
+    EXPECT_EQ(group.propertyType(), pt_file);
+    EXPECT_TRUE(group.readOnly());
+    EXPECT_EQ(group.parent(), nullptr);
+    EXPECT_EQ(group.childProperties().front()->value(), u"first");
+    EXPECT_EQ(group.childProperties().front()->parent(), &group);
+}
