@@ -2,9 +2,9 @@
 #include "cli/ArchivePlace.h"
 
 #include "base/FileSteps.h"
-#include "cli/DiskRoom.h"
 #include "cli/ExitCode.h"
 #include "publish/BookArchiveCheck.h"
+#include "publish/BookRoom.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -6,13 +6,13 @@
 #include "cli/Console.h"
 #include "cli/DiskRoom.h"
 #include "cli/Interrupt.h"
-#include "cli/OutputLock.h"
 #include "cli/ShownProgress.h"
 #include "cli/WatchedWork.h"
 #include "publish/BookCheck.h"
 #include "publish/FlashBookOutput.h"
 #include "publish/FlashBookOutputApp.h"
 #include "publish/HTMLConfigInfo.h"
+#include "publish/OutputLock.h"
 #include "publish/PublishNotifications.h"
 
 #include <algorithm>

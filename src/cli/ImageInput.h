@@ -12,7 +12,4 @@ bool isImageInput(const QString& path);
 /// CommandFailure for a file that is missing or no picture, and for a folder without any.
 QStringList imagePaths(const QStringList& inputs);
 
-/// True when the end of a JPEG or PNG is missing, as after a transfer that broke off.
-bool isCutOff(const QString& path);
-
 } // namespace leafcast

@@ -2,9 +2,7 @@
 #include "cli/OpenedPDF.h"
 
 #include "cli/ExitCode.h"
-#include "cli/FileReason.h"
-
-using namespace Qt::StringLiterals;
+#include "pages/ImportSentences.h"
 
 namespace leafcast {
 
@@ -22,9 +20,8 @@ std::shared_ptr<PDFDocument> openPDF(const PDFDocument::Source& source)
 {
     const PDFDocument::OpenResult result = PDFDocument::open(source);
     if (!result.document)
-        throw CommandFailure(exitCodeFor(result.error),
-            u"the PDF %1 can't be opened: %2"_s.arg(
-                source.path, whyUnreadable(source.path, result.reason)));
+        throw CommandFailure(
+            exitCodeFor(result.error), ImportSentences::notOpened(source.path, result));
     return result.document;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cli/ArchivePlace.h"
+#include "publish/BookPlace.h"
 
 #include <optional>
 #include <QString>
@@ -14,7 +15,7 @@ namespace leafcast {
 /// requires before anything is changed; a failure is a CommandFailure.
 class OutputPlace {
 public:
-    enum class Kind { Folder, Package };
+    using Kind = BookPlace::Kind;
     enum class Packing { None, Zip };
 
     /// packageName: without extension; not used for a folder.
@@ -31,19 +32,13 @@ public:
 
     void makeFolder() const;
 
-    const QString& folder() const { return iFolder; }
+    const QString& folder() const { return iPlace.folder(); }
     /// The folder or the package.
-    const QString& bookPath() const { return iKind == Kind::Folder ? iFolder : iPackagePath; }
+    const QString& bookPath() const { return iPlace.bookPath(); }
     const std::optional<ArchivePlace>& archive() const { return iArchive; }
 
 private:
-    void requireReplaceableFolder() const;
-    void requireReplaceablePackage() const;
-    QStringList replacedPaths() const;
-
-    QString iFolder; // absolute
-    Kind iKind;
-    QString iPackagePath;
+    BookPlace iPlace;
     std::optional<ArchivePlace> iArchive;
 };
 

@@ -7,6 +7,7 @@
 #include "cli/WatchedWork.h"
 #include "pages/import/ImportPDFOperation.h"
 #include "pages/ImportNotifications.h"
+#include "pages/ImportSentences.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,8 +36,8 @@ PageInput importPDF(const PublishOptions& options, const std::shared_ptr<PDFDocu
     }.run();
     Interrupt::endIfRequested(u"nothing was written"_s);
     if (!operation.flashPageSource())
-        throw CommandFailure(ExitCode::InputUnreadable,
-            u"the pages of %1 can't be imported"_s.arg(options.inputs().constFirst()));
+        throw CommandFailure(
+            ExitCode::InputUnreadable, ImportSentences::notImported(options.inputs().constFirst()));
     return { operation.flashPageSource(), operation.flashPagesAnnotation(),
         operation.flashOutline(), {}, 0, 0 };
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/PageInput.h"
 
-#include "cli/BookName.h"
 #include "cli/Command.h"
 #include "cli/ImageInput.h"
 #include "cli/OpenedPDF.h"
@@ -9,7 +8,10 @@
 #include "cli/PDFImport.h"
 #include "pages/FlashPageSourceImg.h"
 #include "pages/FlashPageSourcePDF.h"
-#include "publish/ImageHeader.h"
+#include "pages/ImageFiles.h"
+#include "pages/ImageHeader.h"
+#include "pages/ImportSentences.h"
+#include "publish/BookName.h"
 
 #include <algorithm>
 #include <QElapsedTimer>
@@ -41,11 +43,9 @@ namespace {
 
     void requireAPicture(const std::vector<PageReport>& pages, const QString& path)
     {
-        const auto isWritten = [](const PageReport& page) { return page.picture.written; };
-        if (std::ranges::none_of(pages, isWritten))
-            throw CommandFailure(ExitCode::InputUnreadable,
-                u"no page of %1 can be drawn; of the first: %2"_s.arg(
-                    path, pages.front().picture.problem));
+        const QString problem = ImportSentences::noPageDrawn(path, pages);
+        if (!problem.isEmpty())
+            throw CommandFailure(ExitCode::InputUnreadable, problem);
     }
 
     void takeFirstPageSize(const PDFDocument& document, PageInput& input)
@@ -81,7 +81,7 @@ namespace {
     {
         source.addImgPageFromFile(path);
         report.bytes += QFileInfo(path).size();
-        if (isCutOff(path))
+        if (ImageFiles::isCutOff(path))
             report.warnings.append(u"the end of the image %1 is missing"_s.arg(path));
     }
 

@@ -10,7 +10,4 @@ namespace leafcast {
 /// input without pages, and for a range that names none of them.
 std::vector<qint32> pageNumbers(const QString& range, const QString& input, int pageCount);
 
-/// "1 page", "12 pages"
-QString countOfPages(qsizetype count);
-
 } // namespace leafcast

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/PublishOptions.h"
 
-#include "cli/BookName.h"
 #include "cli/Command.h"
 #include "pages/ImportQuality.h"
+#include "publish/BookName.h"
 
 #include <QFileInfo>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/PublishReport.h"
 
-#include "cli/DataSize.h"
-#include "cli/PageNumbers.h"
+#include "base/DataSize.h"
+#include "pages/ImportSentences.h"
 
 #include <algorithm>
 #include <cmath>
@@ -67,8 +67,8 @@ double PublishReport::totalSeconds() const
 
 QStringList PublishReport::summary() const
 {
-    QStringList lines{ u"%1, %2, in %3 s"_s.arg(
-        countOfPages(pageCount), dataSize(bytes), QString::number(totalSeconds(), 'f', 1)) };
+    QStringList lines{ u"%1, %2, in %3 s"_s.arg(ImportSentences::countOfPages(pageCount),
+        dataSize(bytes), QString::number(totalSeconds(), 'f', 1)) };
     if (archive)
         lines.append(u"packed into %1, %2"_s.arg(archive->path, dataSize(archive->bytes)));
     return lines;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "base/FileReason.h"
 #include "base/SystemError.h"
 #include "cli/Command.h"
-#include "cli/FileReason.h"
 #include "publish/BookCheck.h"
 #include "publish/FlashBookOutput.h"
 

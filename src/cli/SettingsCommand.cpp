@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "base/FileReason.h"
 #include "cli/Command.h"
 #include "cli/Console.h"
-#include "cli/FileReason.h"
 #include "cli/TemplateChoice.h"
 #include "templates/FlashTemplatePropertyType.h"
 #include "templates/PropertyWalk.h"

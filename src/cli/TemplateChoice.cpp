@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/TemplateChoice.h"
 
+#include "base/FileReason.h"
 #include "base/ResourceFolder.h"
 #include "cli/Command.h"
-#include "cli/FileReason.h"
 #include "templates/PropertyValueCheck.h"
 
 using namespace Qt::StringLiterals;

@@ -4,7 +4,7 @@
 #include "base/FileSteps.h"
 #include "base/Log.h"
 #include "base/TextDecoding.h"
-#include "publish/ImageHeader.h"
+#include "pages/ImageHeader.h"
 #include "settings/AppSettings.h"
 
 using namespace Qt::StringLiterals;

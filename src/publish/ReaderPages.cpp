@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "publish/ReaderPages.h"
 
+#include "pages/ImageHeader.h"
 #include "pdf/PDFTextReader.h"
-#include "publish/ImageHeader.h"
 
 #include <QRegularExpression>
 

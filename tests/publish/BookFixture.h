@@ -6,12 +6,11 @@
 #include "publish/FlashBookOutput.h"
 #include "support/LogCapture.h"
 #include "support/TemporaryResources.h"
+#include "support/TestPicture.h"
 
 #include <gtest/gtest.h>
-#include <QBuffer>
 #include <QDir>
 #include <QDirIterator>
-#include <QImage>
 
 namespace leafcast {
 
@@ -38,13 +37,7 @@ protected:
 
     static QByteArray picture(QSize size, double dotsPerInch = 72, const char* format = "JPG")
     {
-        constexpr double inchesPerMetre = 1 / 0.0254;
-        QImage image(size, QImage::Format_RGB32);
-        image.setDotsPerMeterX(qRound(dotsPerInch * inchesPerMetre));
-        image.setDotsPerMeterY(image.dotsPerMeterX());
-        QBuffer bytes;
-        EXPECT_TRUE(image.save(&bytes, format));
-        return bytes.data();
+        return testPicture(size, dotsPerInch, format);
     }
 
     /// Adds "1.jpg" or another file as a page of that number, from 1.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/BookName.h"
+#include "publish/BookName.h"
 
 #include <algorithm>
 #include <QDir>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/OutputLock.h"
+#include "publish/OutputLock.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "publish/ImageHeader.h"
+#include "pages/ImageHeader.h"
 
 #include <algorithm>
 #include <cmath>

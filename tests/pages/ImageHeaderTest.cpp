@@ -1,24 +1,31 @@
 // SPDX-License-Identifier: MIT
-#include "publish/ImageHeader.h"
+#include "pages/ImageHeader.h"
 
-#include "publish/BookFixture.h"
+#include "support/TestFiles.h"
+#include "support/TestPicture.h"
+
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
 
 namespace leafcast {
 
-class ImageHeaderTest : public BookFixture {
+class ImageHeaderTest : public testing::Test {
 protected:
     void expectPoints(const QByteArray& bytes, QSize size) const
     {
-        EXPECT_EQ(ImageHeader::sizeInPoints(resources.addFile(u"picture"_s, bytes)), size);
+        const QString file = writeTestFile(folder.filePath(u"picture"_s), bytes);
+        EXPECT_EQ(ImageHeader::sizeInPoints(file), size);
     }
+    QTemporaryDir folder;
 };
 
 TEST_F(ImageHeaderTest, TakesTheDensityIntoAccountAndTruncates)
 {
-    expectPoints(picture({ 301, 1025 }, 144), { 150, 512 });
+    expectPoints(testPicture({ 301, 1025 }, 144), { 150, 512 });
     // 2835 pixels a metre is what PNG makes of 72 dpi.
-    expectPoints(picture({ 768, 1025 }, 72, "PNG"), { 768, 1025 });
-    QByteArray jpeg = picture({ 254, 100 }, 100);
+    expectPoints(testPicture({ 768, 1025 }, 72, "PNG"), { 768, 1025 });
+    QByteArray jpeg = testPicture({ 254, 100 }, 100);
     jpeg[13] = 2; // dots a centimetre
     expectPoints(jpeg, { 72, 28 });
     jpeg[13] = 0; // only an aspect ratio
@@ -32,7 +39,7 @@ TEST_F(ImageHeaderTest, TakesTheDensityIntoAccountAndTruncates)
 
 TEST_F(ImageHeaderTest, MeasuresAPictureThatLiesOnItsSideAsItIsShown)
 {
-    QByteArray jpeg = picture({ 400, 300 });
+    QByteArray jpeg = testPicture({ 400, 300 });
     const qsizetype behindJFIF = 20;
     jpeg.insert(behindJFIF,
         QByteArray::fromHex("ffe10022457869660000" // Exif

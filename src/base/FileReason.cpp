@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/FileReason.h"
+#include "base/FileReason.h"
 
 #include <QFileInfo>
 

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "pages/ImportSentences.h"
+
+#include "base/FileReason.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast::ImportSentences {
+
+QString notOpened(const QString& path, const PDFDocument::OpenResult& result)
+{
+    return u"the PDF %1 can't be opened: %2"_s.arg(path, whyUnreadable(path, result.reason));
+}
+
+QString noPages(const QString& path)
+{
+    return u"%1 has no pages"_s.arg(path);
+}
+
+QString notImported(const QString& path)
+{
+    return u"the pages of %1 can't be imported"_s.arg(path);
+}
+
+QString noPageDrawn(const QString& path, const std::vector<PageReport>& pages)
+{
+    const auto isWritten = [](const PageReport& page) { return page.picture.written; };
+    if (std::ranges::any_of(pages, isWritten))
+        return {};
+    if (pages.empty())
+        return noPages(path);
+    return u"no page of %1 can be drawn; of the first: %2"_s.arg(
+        path, pages.front().picture.problem);
+}
+
+QString countOfPages(qsizetype count)
+{
+    return count == 1 ? u"1 page"_s : u"%1 pages"_s.arg(count);
+}
+
+} // namespace leafcast::ImportSentences
