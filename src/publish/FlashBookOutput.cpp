@@ -5,6 +5,7 @@
 #include "base/Log.h"
 #include "base/ResourceFolder.h"
 #include "publish/ReaderDataFiles.h"
+#include "settings/AppSettings.h"
 #include "templates/ColorCategory.h"
 
 #include <QFileInfo>
@@ -36,6 +37,7 @@ FlashBookOutput::FlashBookOutput(PageSource pageSource, Template flashTemplate,
     , iFlashPageSource(std::move(pageSource))
     , iSaveToFolder(saveToFolder)
     , iSaveToFileName(fileName)
+    , iPageSize(AppSettings::shareInstance().PageWidth(), AppSettings::shareInstance().PageHeight())
 {
 }
 

@@ -8,6 +8,7 @@
 #include "templates/FlashTemplate.h"
 
 #include <memory>
+#include <QSize>
 #include <QStringList>
 #include <vector>
 
@@ -15,7 +16,8 @@ namespace leafcast {
 
 /// Writes one book into a folder: pictures, player, script and page. Made for one output, used
 /// once. Every step is done as well as it can be: a failure leaves a log line and the next step
-/// runs; BookCheck tells afterwards what the book lacks. One thread.
+/// runs; BookCheck tells afterwards what the book lacks. One thread, which is the main thread
+/// for the constructor at least.
 class FlashBookOutput {
 public:
     using PageSource = std::shared_ptr<FlashPageSource>;
@@ -65,7 +67,8 @@ public:
     void prepaireExtFiles(const QString& folder, const FlashTemplateProperty& atChildPro);
     void PrepareAnnotationFiles(const QString& folder);
 
-    /// Writes the book configuration script and stores the book's page size in AppSettings. Without
+    /// Writes the book configuration script and stores the book's page size in AppSettings, on
+    /// the main thread. Without
     /// the template's script nothing is written.
     void ouputBookXML(const QString& path) { bookXML(path); }
     void bookXML(const QString& path);
@@ -121,7 +124,7 @@ private:
     void copyServer();
     void outputReaderData();
     QString configurationText() const;
-    void storePageSize() const;
+    void takePageSize();
     void copyExtFile(const QString& folder, const FlashTemplateProperty& property);
     QString extFileURL(const FlashTemplateProperty& property) const;
     QString baseOf(const QString& folder) const;
@@ -146,6 +149,7 @@ private:
     QString iAnnotationFilesFolder = QStringLiteral("pageConfig");
     bool iZoomedPageSameAsNormalPage = true;
     int iWorkerCount = 0;
+    QSize iPageSize; // of a book without pages it is that of the settings
     QStringList iFailedFiles;
 };
 

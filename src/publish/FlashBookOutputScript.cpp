@@ -7,6 +7,9 @@
 #include "pages/ImageHeader.h"
 #include "settings/AppSettings.h"
 
+#include <QCoreApplication>
+#include <QThread>
+
 using namespace Qt::StringLiterals;
 
 namespace leafcast {
@@ -28,12 +31,25 @@ namespace {
     constexpr auto productMembers
         = "productName:\"Demo created by Leafcast for iPad\",homePage:\""_L1;
 
-    QString pageMembers(qsizetype pageCount)
+    QString pageMembers(qsizetype pageCount, QSize pageSize)
     {
-        const AppSettings& settings = AppSettings::shareInstance();
         return u"totalPageCount:%1,largePageWidth:%2,largePageHeight:%3,"_s.arg(
-            QString::number(pageCount), QString::number(settings.PageWidth()),
-            QString::number(settings.PageHeight()));
+            QString::number(pageCount), QString::number(pageSize.width()),
+            QString::number(pageSize.height()));
+    }
+
+    /// The settings belong to the main thread; a writer on another one leaves them a message.
+    void storePageSize(QSize size)
+    {
+        const auto store = [size] {
+            AppSettings::shareInstance().setPageWidth(size.width());
+            AppSettings::shareInstance().setPageHeight(size.height());
+        };
+        QCoreApplication* application = QCoreApplication::instance();
+        if (!application || application->thread() == QThread::currentThread())
+            store();
+        else
+            QMetaObject::invokeMethod(application, store, Qt::QueuedConnection);
     }
 
     /// Its bytes, which the book's script begins with; none when it is no UTF-8 text.
@@ -50,7 +66,7 @@ namespace {
 
 void FlashBookOutput::bookXML(const QString& path)
 {
-    storePageSize();
+    takePageSize();
     const auto head = templateScript(iFlashTemplate->GetTheMainJSPath());
     keepResult(
         head && FileSteps::writeAtomically(path, *head + configurationText().toUtf8()), path);
@@ -59,18 +75,17 @@ void FlashBookOutput::bookXML(const QString& path)
 QString FlashBookOutput::configurationText() const
 {
     return orgtFunction + fixedMembers + iFlashTemplate->exportPropertiesSettingsTo1()
-        + pageMembers(qsizetype(iFlashPageSource->pages().size())) + pathMembers + productMembers
-        + homePage + "\"};"_L1 + "var pageEditor = [];ols=[]"_L1;
+        + pageMembers(qsizetype(iFlashPageSource->pages().size()), iPageSize) + pathMembers
+        + productMembers + homePage + "\"};"_L1 + "var pageEditor = [];ols=[]"_L1;
 }
 
-void FlashBookOutput::storePageSize() const
+void FlashBookOutput::takePageSize()
 {
     if (iFlashPageSource->pages().empty())
         return;
     // Always this name, whatever the first page's number is.
-    const QSize size = ImageHeader::sizeInPoints(inResources(iSaveToFolder, u"page/1.jpg"_s));
-    AppSettings::shareInstance().setPageWidth(size.width());
-    AppSettings::shareInstance().setPageHeight(size.height());
+    iPageSize = ImageHeader::sizeInPoints(inResources(iSaveToFolder, u"page/1.jpg"_s));
+    storePageSize(iPageSize);
 }
 
 } // namespace leafcast

@@ -2,6 +2,9 @@
 #include "publish/BookFixture.h"
 #include "settings/AppSettings.h"
 
+#include <QCoreApplication>
+#include <thread>
+
 namespace leafcast {
 
 class FlashBookOutputScriptTest : public BookFixture {
@@ -39,6 +42,19 @@ TEST_F(FlashBookOutputScriptTest, HasTheStoredSizeWithoutPagesAndNoneWithoutTheP
     expectScript("totalPageCount:0,largePageWidth:12,largePageHeight:34");
     addPage(5, "no picture");
     expectScript("totalPageCount:1,largePageWidth:0,largePageHeight:0");
+}
+
+TEST_F(FlashBookOutputScriptTest, LeavesThePageSizeToTheMainThread)
+{
+    addPage(1, picture({ 300, 401 }));
+    AppSettings& settings = AppSettings::shareInstance();
+    settings.setPageWidth(12);
+    std::jthread([output = newOutput()] { output->ouputTheBook(); }).join();
+    EXPECT_TRUE(bookFile(u"javascript/main.js"_s).contains("largePageWidth:300"));
+    EXPECT_EQ(settings.PageWidth(), 12);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(settings.PageWidth(), 300);
+    EXPECT_EQ(settings.PageHeight(), 401);
 }
 
 } // namespace leafcast
