@@ -35,6 +35,20 @@ QString noPageDrawn(const QString& path, const std::vector<PageReport>& pages)
         path, pages.front().picture.problem);
 }
 
+QString pagesNotDrawn(const std::vector<PageReport>& pages)
+{
+    constexpr qsizetype numbersShown = 10;
+    QStringList numbers;
+    for (const PageReport& page : pages)
+        if (!page.picture.written)
+            numbers.append(QString::number(page.pageNumber));
+    if (numbers.isEmpty())
+        return {};
+    const QString more = numbers.size() > numbersShown ? u" …"_s : QString();
+    return u"%1 of %2 could not be drawn: %3"_s.arg(QString::number(numbers.size()),
+        countOfPages(qsizetype(pages.size())), numbers.mid(0, numbersShown).join(u", "_s) + more);
+}
+
 QString countOfPages(qsizetype count)
 {
     return count == 1 ? u"1 page"_s : u"%1 pages"_s.arg(count);

@@ -5,6 +5,7 @@
 #include "pages/import/ImportProblem.h"
 #include "pages/ImportNotifications.h"
 #include "pages/ImportQuality.h"
+#include "pages/ImportSentences.h"
 #include "pages/PageRangeCheck.h"
 #include "pages/ui/ImportForm.h"
 #include "widgets/ProblemLabel.h"
@@ -149,6 +150,7 @@ void ImportWindowDelegate::onImportAction()
     iFlashPageSource.reset();
     iFlashPagesAnnotations.reset();
     iFlashOutline.reset();
+    iNotice.clear();
     LOG_DEBUG("ImportWindowDelegate", u"start to import pdf now..."_s);
     if (iImages.isEmpty())
         startImport();
@@ -223,6 +225,7 @@ void ImportWindowDelegate::importIsFinished(const std::shared_ptr<ImportPDFOpera
             askForPassword(operation->flashPageSource()->openResult().error);
         return;
     }
+    iNotice = ImportSentences::pagesNotDrawn(operation->flashPageSource()->pageReports());
     iFlashPageSource = operation->flashPageSource();
     iFlashPagesAnnotations = operation->flashPagesAnnotation();
     iFlashOutline = operation->flashOutline();

@@ -41,6 +41,9 @@ public:
     const std::shared_ptr<FlashOutline>& flashOutline() const { return iFlashOutline; }
     qint32 pageWidth() const { return iPageWidth; } // of the first page, points, truncated
     qint32 pageHeight() const { return iPageHeight; }
+    /// What the user should know of an import that ended well, such as pages that could not be
+    /// drawn; a sentence without capital and full stop, mostly empty.
+    const QString& notice() const { return iNotice; }
     bool isImporting() const { return iIsImporting; }
 
     void onBrowseFileAction();
@@ -91,6 +94,7 @@ private:
 
     qint32 iPageWidth = 0;
     qint32 iPageHeight = 0;
+    QString iNotice;
     bool iIsImporting = false;
     std::shared_ptr<FlashPageSource> iFlashPageSource;
     std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotations;

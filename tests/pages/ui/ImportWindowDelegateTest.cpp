@@ -10,6 +10,8 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDragEnterEvent>
+#include <QMimeData>
 #include <QProcess>
 #include <QProgressBar>
 
@@ -157,7 +159,8 @@ TEST_F(ImportWindowDelegateTest, SaysWhyADamagedPDFCanNotBeImportedAndKeepsWhatW
     const QString path = writeTestFile(folder.filePath(u"torn.pdf"_s), "no PDF at all");
     importFile(path);
     waitForTheEnd();
-    EXPECT_TRUE(info().startsWith(u"The PDF %1 can't be opened: "_s.arg(path))) << info().toStdString();
+    EXPECT_TRUE(info().startsWith(u"The PDF %1 can't be opened: "_s.arg(path)))
+        << info().toStdString();
     EXPECT_EQ(typed("txtImportFile"), path);
     EXPECT_EQ(sheet->flashPageSource(), nullptr);
     EXPECT_TRUE(sheet->isVisible());
@@ -184,6 +187,50 @@ TEST_F(ImportWindowDelegateTest, RefusesAnImageThatIsNone)
     waitForTheEnd();
     EXPECT_TRUE(info().contains(u"1.png can't be used: "_s)) << info().toStdString();
     EXPECT_TRUE(sheet->isVisible());
+}
+
+TEST_F(ImportWindowDelegateTest, NotesThePagesThatCouldNotBeDrawn)
+{
+    const QString path = addPDF(u"book.pdf"_s, 3);
+    openSheet();
+    click("optPageRange");
+    type("txtPageRange", u"2-5"_s);
+    type("txtImportFile", path);
+    sheet->onImportAction(); // which takes any range
+    EXPECT_EQ(waitForResult(), 1);
+    EXPECT_EQ(sheet->notice(), u"2 of 4 pages could not be drawn: 4, 5"_s);
+}
+
+TEST_F(ImportWindowDelegateTest, TakesWhatIsDroppedOnIt)
+{
+    const QString path = addPDF(u"dropped.pdf"_s, 1);
+    openSheet();
+    QMimeData data;
+    const auto drop = [&](const QList<QUrl>& urls) {
+        data.setUrls(urls);
+        QDragEnterEvent enter({}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.ignore();
+        QCoreApplication::sendEvent(sheet.get(), &enter);
+        QDropEvent event({}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        if (enter.isAccepted())
+            QCoreApplication::sendEvent(sheet.get(), &event);
+        return enter.isAccepted();
+    };
+    EXPECT_TRUE(drop({ QUrl::fromLocalFile(path) }));
+    EXPECT_EQ(typed("txtImportFile"), path);
+    EXPECT_FALSE(
+        drop({ QUrl::fromLocalFile(u"/notes.txt"_s), QUrl(u"https://a.example/b.pdf"_s) }));
+    EXPECT_EQ(typed("txtImportFile"), path);
+}
+
+TEST_F(ImportWindowDelegateTest, OpensTheFileAndTakesWhatThePanelReportsWhateverItsCode)
+{
+    QStringList opened;
+    openSheet();
+    sheet->setOpener([&](const QString& path) { opened.append(path); });
+    sheet->openPanelDidEnd(0, u"/reported.pdf"_s);
+    click("btnOpenFile");
+    EXPECT_EQ(opened, QStringList(u"/reported.pdf"_s));
 }
 
 } // namespace leafcast

@@ -160,4 +160,25 @@ TEST_F(OutputWindowDelegateTest, SaysWhatCouldNotBeWritten)
     EXPECT_TRUE(sheet->isVisible());
 }
 
+TEST_F(OutputWindowDelegateTest, ShowsTheFolderAndTakesWhatThePanelReportsWhateverItsCode)
+{
+    openSheet();
+    click("btnOpenFolder");
+    EXPECT_EQ(opened, QStringList(out()));
+    sheet->openPanelDidEnd(0, u""_s);
+    EXPECT_EQ(control<QLineEdit>("txtOutputFolder")->text(), u""_s);
+}
+
+TEST_F(OutputWindowDelegateTest, PutsDescriptionAndKeywordsIntoThePageWhenTheyAreTyped)
+{
+    resources.addFile(
+        templateFolder + u"index.html"_s, "<p>${meta.description}</p><p>${meta.keywords}</p>");
+    openSheet();
+    click("btnMore");
+    type("txtDescription", u"On leaves"_s);
+    publishAndWait();
+    EXPECT_EQ(FileSteps::read(out(u"book.html"_s)).value_or(""),
+        "<p>On leaves</p><p>Leafcast,page flip,flipping-book</p>");
+}
+
 } // namespace leafcast
