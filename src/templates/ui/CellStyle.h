@@ -22,6 +22,11 @@ inline QPalette palette(const QStyleOptionViewItem& option)
     return palette;
 }
 
+inline bool isDark(const QPalette& palette)
+{
+    return palette.color(QPalette::Base).lightness() < 128;
+}
+
 inline QPalette::ColorRole textRole(const QStyleOptionViewItem& option)
 {
     return option.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text;

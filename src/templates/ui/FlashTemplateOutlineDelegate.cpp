@@ -21,12 +21,13 @@ namespace {
         return column == FlashTemplateOutlineDelegate::KeyColumn ? u"key"_s : u"value"_s;
     }
 
-    QString toolTipOf(const FlashTemplateProperty& property)
+    /// The whole of what may be cut off in the row, or what is wrong with it.
+    QString toolTipOf(const FlashTemplateProperty& property, const FlashTmplCell& cell)
     {
         const QString problem = propertyProblem(property);
-        return problem.isEmpty()
-            ? property.value()
-            : FlashTemplateOutlineDelegate::tr("Can't be used: %1").arg(problem);
+        if (problem.isEmpty())
+            return cell.shownText();
+        return FlashTemplateOutlineDelegate::tr("Can't be used: %1").arg(problem);
     }
 
     QFont boldFont()
@@ -145,7 +146,8 @@ QVariant FlashTemplateOutlineDelegate::data(const QModelIndex& index, int role) 
     }
     if (index.column() == ValueColumn)
         return valueData(*property, role);
-    return role == Qt::DisplayRole ? objectValueForTableColumn(u"key"_s, *property) : QVariant();
+    const bool isTitle = role == Qt::DisplayRole || role == Qt::ToolTipRole;
+    return isTitle ? objectValueForTableColumn(u"key"_s, *property) : QVariant();
 }
 
 QVariant FlashTemplateOutlineDelegate::valueData(FlashTemplateProperty& property, int role) const
@@ -158,7 +160,7 @@ QVariant FlashTemplateOutlineDelegate::valueData(FlashTemplateProperty& property
             return valueAsBool(property.value()) ? Qt::Checked : Qt::Unchecked;
         return {};
     case Qt::ToolTipRole:
-        return toolTipOf(property);
+        return toolTipOf(property, *displayCell(property));
     case Qt::ForegroundRole:
         return propertyProblem(property).isEmpty() ? QVariant() : ProblemMark::color();
     default:

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QGuiApplication>
-#include <QPalette>
+#include "templates/ui/CellStyle.h"
+
 #include <QWidget>
 
 /// How the property editor shows what can't be used: red, and in words beside it.
@@ -11,7 +11,7 @@ namespace leafcast::ProblemMark {
 /// Red that can be read on the application's base colour, light or dark.
 inline QColor color()
 {
-    const bool isDark = QGuiApplication::palette().color(QPalette::Base).lightness() < 128;
+    const bool isDark = CellStyle::isDark(QApplication::palette());
     return isDark ? QColor(255, 138, 128) : QColor(179, 38, 30);
 }
 

@@ -27,6 +27,7 @@ namespace {
         text->setReadOnly(true);
         text->setTabChangesFocus(true);
         text->setFrameShape(QFrame::NoFrame);
+        text->document()->setDocumentMargin(0);
         text->viewport()->setAutoFillBackground(false);
         text->setPlaceholderText(PropertyHelp::tr("Select a setting to read what it does."));
         text->setFixedHeight(text->fontMetrics().lineSpacing() * linesOfHelp);

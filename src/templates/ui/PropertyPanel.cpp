@@ -11,7 +11,6 @@
 #include <QAction>
 #include <QFile>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QShortcut>
@@ -24,7 +23,7 @@ namespace leafcast {
 
 namespace {
 
-    constexpr int margin = 12;
+    constexpr int margin = 8;
     constexpr int spacing = 8;
 
     /// None when the program was linked without the pictures: then texts stand in for them.
@@ -93,7 +92,8 @@ QLineEdit* PropertyPanel::makeFilterBox()
     iFilterBox->setAccessibleName(tr("Find a setting"));
     iFilterBox->setPlaceholderText(tr("Find a setting"));
     iFilterBox->setClearButtonEnabled(true);
-    iFilterBox->addAction(iconNamed(u"filter"_s), QLineEdit::LeadingPosition);
+    if (const QIcon icon = iconNamed(u"filter"_s); !icon.isNull())
+        iFilterBox->addAction(icon, QLineEdit::LeadingPosition);
     connect(iFilterBox, &QLineEdit::textChanged, this, [this](const QString& typed) {
         iFilter->setWords(typed);
         arrangeRows();
@@ -129,7 +129,6 @@ QWidget* PropertyPanel::makeTree()
     iOutlineView->setObjectName(u"outlineView"_s);
     iOutlineView->setAccessibleName(tr("Settings of the template"));
     iOutlineView->setModel(iFilter);
-    iOutlineView->header()->setSectionResizeMode(QHeaderView::Stretch);
     iOutlineView->setContextMenuPolicy(Qt::ActionsContextMenu);
     iOutlineView->addActions({ iChoose, iClearFile, iReset, iResetAll, iUndo, iRedo });
 
@@ -137,7 +136,7 @@ QWidget* PropertyPanel::makeTree()
     iEmptiness->setObjectName(u"lblEmptiness"_s);
     iEmptiness->setAlignment(Qt::AlignCenter);
     iEmptiness->setWordWrap(true);
-    iEmptiness->setEnabled(false);
+    iEmptiness->setForegroundRole(QPalette::PlaceholderText);
 
     iPages = new QStackedWidget;
     iPages->addWidget(iOutlineView);

@@ -5,12 +5,21 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 
 namespace leafcast {
 
 namespace {
 
     constexpr int indentationPoints = 8;
+    // Values need more room than titles: captions and paths are longer.
+    constexpr int keyColumnPercent = 46;
+
+    bool isGroup(const QModelIndex& index)
+    {
+        const auto* property = FlashTemplateOutlineDelegate::propertyAt(index);
+        return property && property->propertyType() == pt_composite;
+    }
 
 } // namespace
 
@@ -35,10 +44,24 @@ void PropertyTreeView::spanGroups(const QModelIndex& parent)
 {
     for (int row = 0; row < model()->rowCount(parent); ++row) {
         const QModelIndex index = model()->index(row, 0, parent);
-        const auto* property = FlashTemplateOutlineDelegate::propertyAt(index);
-        setFirstColumnSpanned(row, parent, property && property->propertyType() == pt_composite);
+        setFirstColumnSpanned(row, parent, isGroup(index));
         spanGroups(index);
     }
+}
+
+void PropertyTreeView::resizeEvent(QResizeEvent* event)
+{
+    setColumnWidth(
+        FlashTemplateOutlineDelegate::KeyColumn, viewport()->width() * keyColumnPercent / 100);
+    QTreeView::resizeEvent(event);
+}
+
+void PropertyTreeView::drawRow(
+    QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    if (isGroup(index))
+        painter->fillRect(option.rect, option.palette.alternateBase());
+    QTreeView::drawRow(painter, option, index);
 }
 
 bool PropertyTreeView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)

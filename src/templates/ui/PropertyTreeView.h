@@ -21,6 +21,9 @@ public:
 protected:
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+        const QModelIndex& index) const override;
 
 private:
     void spanGroups(const QModelIndex& parent);
