@@ -24,6 +24,16 @@ namespace {
     constexpr int margin = 16;
     constexpr int typingPauseMilliseconds = 300;
 
+    /// In points, truncated; 0 x 0 when there is none.
+    QSize firstPageSize(const ImportPDFOperation& operation)
+    {
+        const auto& source = operation.flashPageSource();
+        const auto document = source ? source->document() : nullptr;
+        const auto page = document ? document->pageAtIndex(0) : std::nullopt;
+        const PDFRect box = page ? page->boundsForBox(PDFBox::CropBox) : PDFRect();
+        return { static_cast<int>(box.width), static_cast<int>(box.height) };
+    }
+
 } // namespace
 
 ImportWindowDelegate::ImportWindowDelegate(QWidget* parent, AppSettings& settings)
@@ -184,12 +194,16 @@ void ImportWindowDelegate::startImport()
     iImportPDF->setImportBookmarks(iSettings.importBookmark() == 1);
     LOG_DEBUG("ImportWindowDelegate", u"before add operation"_s);
     const auto operation = iImportPDF;
-    iQueue.add([operation] { operation->main(); },
-        [this, operation] {
-            // One that was cancelled in favour of the next is nobody's concern.
-            if (operation == iImportPDF)
-                importIsFinished(operation);
-        });
+    const auto size = std::make_shared<QSize>(0, 0);
+    const auto work = [operation, size] {
+        operation->main();
+        *size = firstPageSize(*operation); // here, because it asks the PDF service
+    };
+    iQueue.add(work, [this, operation, size] {
+        // One that was cancelled in favour of the next is nobody's concern.
+        if (operation == iImportPDF)
+            importIsFinished(*operation, *size);
+    });
     LOG_DEBUG("ImportWindowDelegate", u"after add operation"_s);
 }
 
@@ -213,24 +227,23 @@ void ImportWindowDelegate::mainThread_handleMSG(const Notification& notification
     iForm->prgBar->setValue(page);
 }
 
-void ImportWindowDelegate::importIsFinished(const std::shared_ptr<ImportPDFOperation>& operation)
+void ImportWindowDelegate::importIsFinished(const ImportPDFOperation& operation, QSize firstPage)
 {
     LOG_DEBUG("ImportWindowDelegate", u"import pdf isFinished."_s);
     enableButtons(true);
     iIsImporting = false;
-    const QString problem = importProblem(iForm->txtImportFile->text(), *operation);
-    if (!operation->flashPageSource() || !problem.isEmpty()) {
+    const QString problem = importProblem(iForm->txtImportFile->text(), operation);
+    if (!operation.flashPageSource() || !problem.isEmpty()) {
         tellFailure(problem);
-        if (operation->flashPageSource())
-            askForPassword(operation->flashPageSource()->openResult().error);
+        if (operation.flashPageSource())
+            askForPassword(operation.flashPageSource()->openResult().error);
         return;
     }
-    iNotice = ImportSentences::pagesNotDrawn(operation->flashPageSource()->pageReports());
-    iFlashPageSource = operation->flashPageSource();
-    iFlashPagesAnnotations = operation->flashPagesAnnotation();
-    iFlashOutline = operation->flashOutline();
-    if (const auto document = iFlashPageSource->document())
-        takeFirstPageSize(*document);
+    iNotice = ImportSentences::pagesNotDrawn(operation.flashPageSource()->pageReports());
+    iFlashPageSource = operation.flashPageSource();
+    iFlashPagesAnnotations = operation.flashPagesAnnotation();
+    iFlashOutline = operation.flashOutline();
+    setPageSize(firstPage);
     endWell();
 }
 
@@ -238,13 +251,6 @@ void ImportWindowDelegate::tellFailure(const QString& problem)
 {
     LOG_WARN("ImportWindowDelegate", u"import pdf failed..."_s);
     iForm->lblInfo->showProblem(problem);
-}
-
-void ImportWindowDelegate::takeFirstPageSize(const PDFDocument& document)
-{
-    const auto page = document.pageAtIndex(0);
-    const PDFRect box = page ? page->boundsForBox(PDFBox::CropBox) : PDFRect();
-    setPageSize({ static_cast<int>(box.width), static_cast<int>(box.height) });
 }
 
 void ImportWindowDelegate::setPageSize(QSize size)

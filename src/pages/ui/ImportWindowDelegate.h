@@ -76,9 +76,8 @@ private:
     void startImageImport();
     void anyThread_handleMSG(const Notification& notification);
     void mainThread_handleMSG(const Notification& notification);
-    void importIsFinished(const std::shared_ptr<ImportPDFOperation>& operation);
+    void importIsFinished(const ImportPDFOperation& operation, QSize firstPage);
     void imagesAreRead(const ImageImport& images);
-    void takeFirstPageSize(const PDFDocument& document);
     void setPageSize(QSize size);
     void endWell();
     void tellFailure(const QString& problem);
