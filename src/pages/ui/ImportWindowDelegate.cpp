@@ -71,6 +71,8 @@ void ImportWindowDelegate::awakeFromNib()
     iProgress = NotificationCenter::defaultCenter().addObserver(ImportProgressInfoMSG,
         [this](const Notification& notification) { anyThread_handleMSG(notification); });
     enableButtons(true);
+    // The file field would show the end of a long path only while it has the focus.
+    (iForm->txtImportFile->text().isEmpty() ? iForm->btnBrowse : iForm->btnOK)->setFocus();
 }
 
 void ImportWindowDelegate::connectControls()

@@ -42,6 +42,7 @@ namespace {
 
 void ImportWindowDelegate::takeFiles(const QStringList& paths)
 {
+    iForm->btnOK->setFocus();
     for (const QString& path : paths)
         if (isPDF(path))
             return iForm->txtImportFile->setText(path);

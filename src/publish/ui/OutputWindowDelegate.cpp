@@ -55,6 +55,8 @@ void OutputWindowDelegate::awakeFromNib()
     iForm->txtTitle->setText(iSettings.lastOutputFileTitle());
     if (QAbstractButton* choice = iForm->mOutputType->button(iSettings.outputType()))
         choice->setChecked(true);
+    (iForm->txtOutputFolder->text().isEmpty() ? iForm->btnSelectFolder : iForm->btnPublish)
+        ->setFocus();
     iProgress = NotificationCenter::defaultCenter().addObserver(
         ReaderDataProgressMSG, [this](const Notification& notification) {
             QMetaObject::invokeMethod(
