@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace leafcast {
+
+/// A style in the gallery: its picture with the name below. The selected one has a frame, because a
+/// tint would change the colours that it is chosen for.
+class StyleCell : public QStyledItemDelegate {
+    Q_OBJECT
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+        const QModelIndex& index) const override;
+};
+
+} // namespace leafcast
