@@ -2,7 +2,7 @@
 # The front door. Each target sets up what it needs first; a second run finds it there.
 SHELL := /bin/bash
 .DEFAULT_GOAL := help
-.PHONY: help demo test asan bench bench-player samples shots golden lint format install clean
+.PHONY: help demo app test asan bench bench-player samples shots golden lint format install clean
 
 DEMO_BOOK := build/demo-book
 PREFIX ?= /usr/local
@@ -19,6 +19,11 @@ demo: ## Set up, build, and turn the sample PDF into a book
 	@echo "Look at it: open $(CURDIR)/$(DEMO_BOOK)/index.html in a browser,"
 	@echo "or: xdg-open $(DEMO_BOOK)/index.html"
 	@echo "On a tablet: build/headless/bin/leafcast serve $(DEMO_BOOK) shows the address and its QR code."
+
+app: ## Set up, build and start the desktop application
+	@tools/setup app
+	@tools/build release
+	@build/release/bin/leafcast-desktop
 
 test: ## Set up, build and run every test
 	@tools/setup test

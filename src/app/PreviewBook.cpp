@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "app/PreviewBook.h"
+
+#include "base/Log.h"
+#include "pages/FlashPageSourceCopy.h"
+#include "publish/FlashBookOutput.h"
+#include "publish/HTMLConfigInfo.h"
+
+using namespace Qt::StringLiterals;
+
+namespace leafcast {
+
+class PreviewBook::Work {
+public:
+    Work(const Parts& parts, const QString& folder)
+        : iPages(std::make_shared<FlashPageSourceCopy>(parts.pageSource))
+        , iWriter(iPages, parts.flashTemplate->copy(), folder, u"index.html"_s)
+    {
+        const auto page = std::make_shared<HTMLConfigInfo>();
+        page->setHTMLTitle(u"Preview"_s);
+        iWriter.setHTMLConfig(page);
+        iWriter.setFlashPagesAnnotations(parts.annotations);
+        iWriter.setFlashOutline(parts.outline);
+    }
+
+    void run()
+    {
+        try {
+            iWriter.ouputTheBook();
+            iIsWritten = !iPages->stop();
+        } catch (const std::exception& error) {
+            LOG_ERROR("Leafcast_for_iPad_MacAppDelegate",
+                u"apply change :%1"_s.arg(QString::fromUtf8(error.what())));
+        }
+    }
+
+    void stop() { iPages->setStop(true); }
+    bool isWritten() const { return iIsWritten; }
+    QString page() const { return iWriter.outputFileName(); }
+
+private:
+    std::shared_ptr<FlashPageSourceCopy> iPages;
+    FlashBookOutput iWriter;
+    bool iIsWritten = false;
+};
+
+PreviewBook::~PreviewBook()
+{
+    if (iCurrent)
+        iCurrent->stop();
+}
+
+void PreviewBook::write(const Parts& parts, const QString& folder)
+{
+    auto work = std::make_shared<Work>(parts, folder);
+    if (!iCurrent) {
+        start(std::move(work));
+        return;
+    }
+    iCurrent->stop();
+    iNext = std::move(work);
+}
+
+void PreviewBook::start(std::shared_ptr<Work> work)
+{
+    iCurrent = work;
+    iQueue.add([work] { work->run(); }, [this] { ended(); });
+}
+
+void PreviewBook::ended()
+{
+    const std::shared_ptr<Work> last = std::move(iCurrent);
+    if (iNext)
+        start(std::move(iNext));
+    else if (last->isWritten())
+        Q_EMIT written(last->page());
+}
+
+} // namespace leafcast
