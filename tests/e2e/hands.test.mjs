@@ -184,6 +184,7 @@ describe('the book in hands', () => {
     assert.deepEqual(await openPages(page), [4, 5]);
     const start = await destination(page);
     for (let press = 0; press < 9 && (await destination(page)) === start; press++) await page.keyboard.press('ArrowRight');
+    await page.locator('.page[data-place="6"]').waitFor();
     assert.deepEqual(await openPages(page), [6, 7]);
     assert.ok((await zoomOf(page)).x > middle.x, 'it is read on from the left');
   });
