@@ -22,15 +22,19 @@ export function firstPlace(book: Book, settings: Settings): number {
 export function keepAddress(reader: Reader, signal: AbortSignal): void {
   const { book, settings } = reader;
   const lastPage = lastPageOf();
+  const remember = (place: number): void => {
+    if (settings.remembersPage) lastPage.write(place);
+  };
   reader.on('jumped', ({ from, to }) => {
     change('replaceState', from);
     change('pushState', to);
+    remember(to); // readers close a book before it has settled
   });
   reader.on('settled', ([place]) => {
     if (place === undefined) return;
     // A second page of a spread that the address names stays named.
     if (!reader.places.includes(placeOfAddress(book) ?? 0)) change('replaceState', place);
-    if (settings.remembersPage) lastPage.write(place);
+    remember(place);
   });
   window.addEventListener(
     'popstate',
