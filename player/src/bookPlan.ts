@@ -35,7 +35,7 @@ export class BookPlan {
     this.spreads = arrange({
       pageCount: book.pages.length,
       double: this.layout.double,
-      coverAlone: options.coverAlone,
+      coverAlone: options.coverAlone !== (mode === 'other'),
       isWide: (place) => isWide(book.pages[place - 1], book.shape),
     });
   }

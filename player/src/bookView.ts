@@ -5,8 +5,9 @@ import { BookPlan } from './bookPlan.ts';
 import { type Paper, paintFace } from './facePainter.ts';
 import { fadingPicture } from './fading.ts';
 import { FlyingLeaves } from './flyingLeaves.ts';
-import { type Box, clamp, type Point } from './geometry.ts';
+import { clamp, type Point } from './geometry.ts';
 import type { Quality } from './governor.ts';
+import { airSpace, faceOnGround, placedPages, wantedPlaces } from './ground.ts';
 import type { Mode } from './layout.ts';
 import { PageEdges } from './pageEdges.ts';
 import { RestingSides, type Side, SIDES } from './restingSides.ts';
@@ -137,7 +138,7 @@ export class BookView implements View {
   }
 
   reveal(place: number, top = 0): void {
-    const page = this.placedPages().find((placed) => placed.place === place);
+    const page = this.placedPages.find((placed) => placed.place === place);
     if (!page || this.zoom.scale <= 1) return;
     const seen = { ...page.picture, x: page.picture.x + this.plan.shiftAt(this.turning.destination) };
     this.setZoom(zoomOn(this.zoom.scale, { x: 0.5, y: top }, seen, sizeOf(this.host)));
@@ -204,7 +205,7 @@ export class BookView implements View {
 
   private sharpen(): void {
     const { scale } = this.zoom;
-    if (scale > 1) this.sharp.showSoon(this.placedPages(), this.sheetPlace.seen(sizeOf(this.host)), scale);
+    if (scale > 1) this.sharp.showSoon(this.placedPages, this.sheetPlace.seen(sizeOf(this.host)), scale);
     else this.sharp.clear();
   }
 
@@ -242,14 +243,6 @@ export class BookView implements View {
     return true;
   }
 
-  /** Where leaves can be seen, also while the sheet moves to or from a cover. */
-  private airSpace(): Box {
-    const { width, height } = sizeOf(this.host);
-    const { lowest, highest } = this.turning;
-    const side = lowest === 0 || highest === this.plan.lastSpread ? this.plan.layout.leaf.width / 2 : 0;
-    return { x: -side, y: 0, width: width + 2 * side, height };
-  }
-
   private arrangeAt(place: number): void {
     const look = this.look();
     this.plan = new BookPlan(this.book, this.options, sizeOf(this.host), marginOf(this.host), this.mode);
@@ -276,7 +269,7 @@ export class BookView implements View {
 
   private tell(): void {
     this.placeEdges();
-    this.events.placed(this.placedPages());
+    this.events.placed(this.placedPages);
     this.events.settled(this.places);
   }
 
@@ -298,11 +291,6 @@ export class BookView implements View {
     this.prepareNextLeaf();
   }
 
-  private faceOnGround(side: Side): Face | undefined {
-    const { spreads } = this.plan;
-    return side === 'start' ? spreads[this.turning.lowest]?.start : spreads[this.turning.highest]?.end;
-  }
-
   private showGround(): void {
     const { isMoving } = this.turning;
     this.hasTurned ||= isMoving;
@@ -310,7 +298,7 @@ export class BookView implements View {
     this.wantPictures();
     this.paintSides();
     this.placeEdges();
-    this.events.placed(this.placedPages());
+    this.events.placed(this.placedPages);
   }
 
   private placeEdges(): void {
@@ -318,30 +306,18 @@ export class BookView implements View {
     this.edges.place(this.plan.layout.book, this.book.pages.length / 2, through, this.options.rightToLeft);
   }
 
-  /** What is seen now and at the end, then the leaves in between, then what comes after it. */
   private wantPictures(): void {
     if (this.host.clientWidth === 0) return; // not seen yet
-    const { lowest, highest, destination, leaves } = this.turning;
-    const places = (spreads: readonly number[]) => spreads.flatMap((spread) => this.plan.placesAt(spread));
-    const seen = places([lowest, highest, destination, ...leaves.map((leaf) => leaf.to)]);
-    const near = this.hasTurned ? NEAR_AFTER_A_TURN : NEAR_AT_FIRST;
-    this.pictures.want(
-      [...new Set([...seen, ...places(near.map((step) => destination + step))])].slice(0, MOST_BITMAPS),
-      (place) => seen.includes(place),
-      (place) => this.plan.pageSize(place),
-    );
+    const { seen, all } = wantedPlaces(this.plan, this.turning, this.hasTurned ? NEAR_AFTER_A_TURN : NEAR_AT_FIRST);
+    this.pictures.want(all.slice(0, MOST_BITMAPS), (place) => seen.includes(place), (place) => this.plan.pageSize(place));
   }
 
-  private placedPages(): PlacedPage[] {
-    return SIDES.flatMap((side) => {
-      const face = this.faceOnGround(side);
-      if (!face || face.place === 0) return [];
-      return [{ place: face.place, window: this.plan.sideBox(side), picture: this.plan.pageBox(face, side) }];
-    });
+  private get placedPages(): PlacedPage[] {
+    return placedPages(this.plan, this.turning);
   }
 
   private paintSides(): void {
-    for (const side of SIDES) this.paintSide(side, this.faceOnGround(side));
+    for (const side of SIDES) this.paintSide(side, faceOnGround(this.plan, this.turning, side));
   }
 
   private paintSide(side: Side, face: Face | undefined): void {
@@ -354,7 +330,7 @@ export class BookView implements View {
   }
 
   private paintLeaves(quality: Quality): void {
-    if (this.turning.isMoving) this.leaves.paint(this.plan, this.turning, this.airSpace(), quality);
+    if (this.turning.isMoving) this.leaves.paint(this.plan, this.turning, airSpace(this.plan, this.turning, sizeOf(this.host)), quality);
     else this.leaves.clear();
   }
 

@@ -13,6 +13,7 @@ const STROKES = {
   fit: 'M4 8V4h4M16 4h4v4M20 16v4h-4M8 20H4v-4M9 9h6v6H9z',
   single: 'M7 4h10v16H7z',
   double: 'M3 5h9v14H3zM12 5h9v14h-9z',
+  other: 'M12 5H3v14h9M12 5h9v14h-9zM8 9l-3 3 3 3',
   auto: 'M3 6h8v12H3zM14 8l3-3 3 3M17 5v5M14 16l3 3 3-3M17 19v-5',
   fullScreen: 'M4 9V4h5M15 4h5v5M20 15v5h-5M9 20H4v-5',
   window: 'M9 4v5H4M20 9h-5V4M15 20v-5h5M4 15h5v5',

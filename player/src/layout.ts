@@ -10,7 +10,8 @@ export interface Layout {
   readonly hingeX: number;
 }
 
-export type Mode = 'auto' | 'single' | 'double';
+/** In "other", the pages that are not each other's neighbours otherwise lie side by side. */
+export type Mode = 'auto' | 'single' | 'double' | 'other';
 
 /** Two pages may be this much smaller than one alone before one alone is better. */
 const SMALLEST_SPREAD = 0.6;
@@ -21,7 +22,7 @@ export function layoutBook(space: Size, margin: Size, shape: number, mode: Mode,
     width: Math.max(space.width - 2 * margin.width, 1),
     height: Math.max(space.height - 2 * margin.height, 1),
   };
-  const double = mode === 'double' || (mode === 'auto' && suitsSpread(inner, shape));
+  const double = mode === 'double' || mode === 'other' || (mode === 'auto' && suitsSpread(inner, shape));
   const free = fit(double ? 2 * shape : shape, inner);
   // Whole pixels, so that a leaf in the air covers the one at rest exactly.
   const leaf = {

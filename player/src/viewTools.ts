@@ -35,6 +35,7 @@ const VIEWS: readonly { readonly mode: Mode; readonly picture: Icon; readonly na
   { mode: 'auto', picture: 'auto', name: 'viewAuto' },
   { mode: 'single', picture: 'single', name: 'viewSingle' },
   { mode: 'double', picture: 'double', name: 'viewDouble' },
+  { mode: 'other', picture: 'other', name: 'viewOther' },
 ];
 
 /** Each press shows the next way of looking at the pages. */

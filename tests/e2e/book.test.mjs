@@ -103,6 +103,18 @@ describe('a published book', () => {
     assert.deepEqual(await openPages(page), [2, 3]);
   });
 
+  it('shows the pages in pairs, or one by one, as its reader chooses', async () => {
+    const page = await open({ hash: '#page/3' });
+    const seen = [await openPages(page)];
+    for (const view of ['automatic', 'single page', 'two pages'])
+      seen.push(await turnWith(page, () => page.getByRole('button', { name: `View: ${view}` }).click()));
+    assert.deepEqual(seen, [[2, 3], [2], [2, 3], [1, 2]]);
+    assert.deepEqual(await turnWith(page, () => page.keyboard.press('ArrowRight')), [3, 4]);
+    const chosenByWindow = await turnWith(page, () => page.getByRole('button', { name: 'View: other pairs of pages' }).click());
+    assert.deepEqual(chosenByWindow, [2, 3]);
+    assert.deepEqual(page.troubles, []);
+  });
+
   it('opens where its reader left it, unless the address names a page', async () => {
     const page = await open();
     await openPages(page);

@@ -42,6 +42,7 @@ export const arabic: Texts = {
   viewAuto: 'العرض: تلقائي',
   viewSingle: 'العرض: صفحة واحدة',
   viewDouble: 'العرض: صفحتان',
+  viewOther: 'العرض: صفحتان بترتيب آخر',
   fullScreen: 'ملء الشاشة',
   print: 'طباعة',
   printOpen: 'الصفحات المفتوحة',

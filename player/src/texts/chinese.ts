@@ -42,6 +42,7 @@ export const chinese: Texts = {
   viewAuto: '视图：自动',
   viewSingle: '视图：单页',
   viewDouble: '视图：双页',
+  viewOther: '视图：错开双页',
   fullScreen: '全屏',
   print: '打印',
   printOpen: '当前页面',

@@ -42,6 +42,7 @@ export const english = {
   viewAuto: 'View: automatic',
   viewSingle: 'View: single page',
   viewDouble: 'View: two pages',
+  viewOther: 'View: other pairs of pages',
   fullScreen: 'Full screen',
   print: 'Print',
   printOpen: 'Open pages',

@@ -42,6 +42,7 @@ export const french: Texts = {
   viewAuto: 'Affichage : automatique',
   viewSingle: 'Affichage : une page',
   viewDouble: 'Affichage : deux pages',
+  viewOther: 'Affichage : autres paires de pages',
   fullScreen: 'Plein écran',
   print: 'Imprimer',
   printOpen: 'Pages ouvertes',

@@ -42,6 +42,7 @@ export const german: Texts = {
   viewAuto: 'Ansicht: automatisch',
   viewSingle: 'Ansicht: Einzelseite',
   viewDouble: 'Ansicht: Doppelseite',
+  viewOther: 'Ansicht: andere Doppelseiten',
   fullScreen: 'Vollbild',
   print: 'Drucken',
   printOpen: 'Aufgeschlagene Seiten',

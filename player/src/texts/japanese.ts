@@ -42,6 +42,7 @@ export const japanese: Texts = {
   viewAuto: '表示：自動',
   viewSingle: '表示：1 ページ',
   viewDouble: '表示：見開き',
+  viewOther: '表示：見開きをずらす',
   fullScreen: '全画面表示',
   print: '印刷',
   printOpen: '開いているページ',

@@ -42,6 +42,7 @@ export const spanish: Texts = {
   viewAuto: 'Vista: automática',
   viewSingle: 'Vista: una página',
   viewDouble: 'Vista: dos páginas',
+  viewOther: 'Vista: otras parejas de páginas',
   fullScreen: 'Pantalla completa',
   print: 'Imprimir',
   printOpen: 'Páginas abiertas',
