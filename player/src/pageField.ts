@@ -3,7 +3,7 @@ import { create } from './dom.ts';
 import type { Ui } from './ui.ts';
 
 /** Shows where the book lies open, and takes a number or a label to go to. */
-export function makePageField({ reader, say, names, announce }: Ui): HTMLElement {
+export function makePageField({ reader, say, names, layer, announce }: Ui): HTMLElement {
   const field = create('input', { type: 'text', className: 'field', 'aria-label': say('pageField') });
   field.autocomplete = 'off';
   field.enterKeyHint = 'go';
@@ -32,6 +32,7 @@ export function makePageField({ reader, say, names, announce }: Ui): HTMLElement
   });
   field.addEventListener('input', () => {
     isTyped = true;
+    layer.leaveFocus();
     accept(field);
   });
   reader.on('turned', show);

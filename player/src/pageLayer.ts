@@ -68,6 +68,11 @@ export class PageLayer {
     this.shown.get(place)?.element.focus({ preventScroll: true });
   }
 
+  /** Where it is, for who has gone on typing since a jump. */
+  leaveFocus(): void {
+    this.focusWanted = 0;
+  }
+
   mark(marks: readonly Mark[], chosen?: Mark): void {
     this.marks = marks;
     this.chosen = chosen;
