@@ -155,6 +155,7 @@ describe('a published book', () => {
     await field.fill('iii');
     const typedMeanwhile = () => page.keyboard.press('Enter').then(() => field.fill('4'));
     assert.deepEqual(await turnWith(page, typedMeanwhile), [2, 3]);
+    await page.waitForFunction(() => document.querySelector('[role=status]').textContent.includes('iii'));
     assert.deepEqual(await turnWith(page, () => page.keyboard.press('Enter')), [4, 5]);
     assert.deepEqual(page.troubles, []);
   });
