@@ -12,6 +12,7 @@ export const quantile = (values, share) =>
   [...values].sort((one, other) => one - other)[Math.max(Math.ceil(share * values.length) - 1, 0)];
 
 export async function loading(open, rounds) {
+  await (await open()).close(); // the browser starts its processes, and reads this player's files, once for all rounds
   const first = { local: [], slow: [] };
   let before;
   for (const kind of ['local', 'slow'])
@@ -76,9 +77,15 @@ async function idling(session) {
   return { idleFrames: await session.evaluate('bench.frames') - frames, idle: (after.seconds - seconds) * 1000 };
 }
 
+/** A short book has no five turns left elsewhere. */
+async function turnToStart(session, place) {
+  for (let last; last !== (last = await place()); ) await session.turn('previous');
+}
+
 /** How many of five quick presses became turns: so many slow ones lead back. */
 async function quickPresses(session) {
   const place = () => session.evaluate(session.player.place);
+  await turnToStart(session, place);
   const from = await place();
   for (let press = 0; press < QUICK_PRESSES; press++) {
     await session.evaluate(`(${session.player.next}, 1)`);

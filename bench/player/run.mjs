@@ -35,7 +35,7 @@ const { values: options } = parseArgs({ options: {
   program: { type: 'string', default: process.env.LEAFCAST ?? join(ROOT, 'build/release/bin/leafcast') },
 } });
 const chosen = (name, wanted) => !wanted || name.startsWith(wanted);
-const effort = options.quick ? { rounds: 1, turns: 4 } : { rounds: 3, turns: 10 };
+const effort = options.quick ? { rounds: 1, turns: 4 } : { rounds: 5, turns: 10 };
 
 async function measure(browser, player, window, book) {
   const pages = player.page ? { [player.address]: player.page(book) } : {};
