@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "app/Language.h"
 #include "app/Leafcast_for_iPad_MacAppDelegate.h"
 #include "app/MainWindow.h"
 #include "app/SingleInstance.h"
@@ -6,6 +7,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QLocale>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -45,6 +47,7 @@ int main(int argc, char** argv)
     QGuiApplication::setDesktopFileName(u"leafcast-desktop"_s);
     const QApplication application(argc, argv);
     QApplication::setWindowIcon(QIcon(u":/icons/leafcast.svg"_s));
+    speakFirstOf(QLocale::system().uiLanguages());
     const QStringList files = filesOf(application);
 
     SingleInstance instance(u"leafcast-desktop-%1"_s.arg(getuid()));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/FileReason.h"
 
+#include "base/Sentences.h"
+
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -11,20 +13,21 @@ QString whyUnreadable(const QString& path, const QString& otherwise)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        return u"it does not exist"_s;
+        return Sentences::tr("it does not exist");
     if (!info.isReadable())
-        return u"it may not be read"_s;
-    return info.isDir() ? u"it is a folder"_s : otherwise;
+        return Sentences::tr("it may not be read");
+    return info.isDir() ? Sentences::tr("it is a folder") : otherwise;
 }
 
 QString whyUnwritable(const QString& path)
 {
     const QFileInfo folder(QFileInfo(path).absolutePath());
     if (!folder.isDir())
-        return u"the folder %1 does not exist"_s.arg(folder.filePath());
+        return Sentences::tr("the folder %1 does not exist").arg(folder.filePath());
     if (QFileInfo(path).isDir())
-        return u"it is a folder"_s;
-    return folder.isWritable() ? u"the disk is full or failing"_s : u"its folder is read-only"_s;
+        return Sentences::tr("it is a folder");
+    return folder.isWritable() ? Sentences::tr("the disk is full or failing")
+                               : Sentences::tr("its folder is read-only");
 }
 
 } // namespace leafcast

@@ -2,6 +2,7 @@
 #include "pages/ImportSentences.h"
 
 #include "base/FileReason.h"
+#include "base/Sentences.h"
 
 #include <algorithm>
 
@@ -11,17 +12,18 @@ namespace leafcast::ImportSentences {
 
 QString notOpened(const QString& path, const PDFDocument::OpenResult& result)
 {
-    return u"the PDF %1 can't be opened: %2"_s.arg(path, whyUnreadable(path, result.reason));
+    return Sentences::tr("the PDF %1 can't be opened: %2")
+        .arg(path, whyUnreadable(path, result.reason));
 }
 
 QString noPages(const QString& path)
 {
-    return u"%1 has no pages"_s.arg(path);
+    return Sentences::tr("%1 has no pages").arg(path);
 }
 
 QString notImported(const QString& path)
 {
-    return u"the pages of %1 can't be imported"_s.arg(path);
+    return Sentences::tr("the pages of %1 can't be imported").arg(path);
 }
 
 QString noPageDrawn(const QString& path, const std::vector<PageReport>& pages)
@@ -31,8 +33,8 @@ QString noPageDrawn(const QString& path, const std::vector<PageReport>& pages)
         return {};
     if (pages.empty())
         return noPages(path);
-    return u"no page of %1 can be drawn; of the first: %2"_s.arg(
-        path, pages.front().picture.problem);
+    return Sentences::tr("no page of %1 can be drawn; of the first: %2")
+        .arg(path, pages.front().picture.problem);
 }
 
 QString pagesNotDrawn(const std::vector<PageReport>& pages)
@@ -45,13 +47,14 @@ QString pagesNotDrawn(const std::vector<PageReport>& pages)
     if (numbers.isEmpty())
         return {};
     const QString more = numbers.size() > numbersShown ? u" …"_s : QString();
-    return u"%1 of %2 could not be drawn: %3"_s.arg(QString::number(numbers.size()),
-        countOfPages(qsizetype(pages.size())), numbers.mid(0, numbersShown).join(u", "_s) + more);
+    return Sentences::tr("%1 of %2 could not be drawn: %3")
+        .arg(QString::number(numbers.size()), countOfPages(qsizetype(pages.size())),
+            numbers.mid(0, numbersShown).join(u", "_s) + more);
 }
 
 QString countOfPages(qsizetype count)
 {
-    return count == 1 ? u"1 page"_s : u"%1 pages"_s.arg(count);
+    return count == 1 ? Sentences::tr("1 page") : Sentences::tr("%1 pages").arg(count);
 }
 
 } // namespace leafcast::ImportSentences

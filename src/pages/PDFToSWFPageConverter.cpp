@@ -2,6 +2,7 @@
 #include "pages/PDFToSWFPageConverter.h"
 
 #include "base/ResourceFolder.h"
+#include "base/Sentences.h"
 
 #include <QFileInfo>
 
@@ -52,7 +53,7 @@ QString PDFToSWFPageConverter::generatePage(qint32 pageNumber)
         return swf;
     }
     if (!PDFDoc()) {
-        report(pageNumber, notDrawn(u"the document could not be opened"_s));
+        report(pageNumber, notDrawn(Sentences::tr("the document could not be opened")));
         return swf;
     }
     QString jpg = pageFile(pageNumber, u".jpg"_s);
@@ -65,7 +66,7 @@ void PDFToSWFPageConverter::pdfPageToImage(qint32 pageNumber, const QString& /*p
     if (!PDFDoc())
         return;
     if (!hasPage(pageNumber))
-        return report(pageNumber, notDrawn(u"the document has no such page"_s));
+        return report(pageNumber, notDrawn(Sentences::tr("the document has no such page")));
     report(pageNumber, imageRep().drawPage(pageNumber - 1, pageFile(pageNumber, u".jpg"_s)));
 }
 

@@ -3,6 +3,7 @@
 
 #include "base/IntegerText.h"
 #include "base/NamedException.h"
+#include "base/Sentences.h"
 
 #include <algorithm>
 #include <QStringTokenizer>
@@ -21,7 +22,7 @@ namespace {
         const auto former = static_cast<qint64>(numbers.size());
         if (former + count > mostNumbers)
             throw NamedException(u"ERROR_PAGE_RANGE_TOO_LONG"_s,
-                u"the page range names more than %1 pages"_s.arg(mostNumbers));
+                Sentences::tr("the page range names more than %1 pages").arg(mostNumbers));
         for (qint64 number = first; number <= last; ++number) // 64 bits: last may be the greatest
             numbers.push_back(static_cast<qint32>(number));
     }

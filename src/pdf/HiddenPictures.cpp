@@ -2,6 +2,7 @@
 #include "pdf/HiddenPictures.h"
 
 #include "base/FileCopy.h"
+#include "base/Sentences.h"
 #include "base/SystemError.h"
 
 #include <cerrno>
@@ -65,7 +66,8 @@ RenderedPage HiddenPictures::moveTo(
         return { .written = false, .problem = answer.problem };
     const QString failure = moveFile(pathOf(number), path);
     if (!failure.isEmpty())
-        return { .written = false, .problem = u"its picture can't be written: "_s + failure };
+        return { .written = false,
+            .problem = Sentences::tr("its picture can't be written: ") + failure };
     return described(answer.fields, iOptions.scale);
 }
 

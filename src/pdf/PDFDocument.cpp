@@ -2,6 +2,7 @@
 #include "pdf/PDFDocument.h"
 
 #include "base/Log.h"
+#include "base/Sentences.h"
 #include "pdf/PDFAnswers.h"
 #include "pdf/PDFServiceWorker.h"
 
@@ -23,14 +24,19 @@ namespace {
     OpenProblem openProblem(const PDFServiceAnswer& answer)
     {
         static const std::map<QString, OpenProblem> refusals{
-            { u"missing"_s, { PDFOpenError::Missing, u"it does not exist or may not be read"_s } },
-            { u"empty"_s, { PDFOpenError::Empty, u"it is empty"_s } },
+            { u"missing"_s,
+                { PDFOpenError::Missing, Sentences::tr("it does not exist or may not be read") } },
+            { u"empty"_s, { PDFOpenError::Empty, Sentences::tr("it is empty") } },
             { u"unreadable"_s,
-                { PDFOpenError::Unreadable, u"it is not a PDF or damaged beyond repair"_s } },
-            { u"locked"_s, { PDFOpenError::Locked, u"it is locked and needs a password"_s } },
-            { u"password"_s, { PDFOpenError::WrongPassword, u"the password is wrong"_s } },
+                { PDFOpenError::Unreadable,
+                    Sentences::tr("it is not a PDF or damaged beyond repair") } },
+            { u"locked"_s,
+                { PDFOpenError::Locked, Sentences::tr("it is locked and needs a password") } },
+            { u"password"_s,
+                { PDFOpenError::WrongPassword, Sentences::tr("the password is wrong") } },
             { u"memory"_s,
-                { PDFOpenError::ServiceFailed, u"it needs more memory than a PDF may use"_s } },
+                { PDFOpenError::ServiceFailed,
+                    Sentences::tr("it needs more memory than a PDF may use") } },
         };
         const auto found = refusals.find(answer.error);
         return found != refusals.end() ? found->second

@@ -2,6 +2,7 @@
 #include "pdf/PDFImageRep.h"
 
 #include "base/Log.h"
+#include "base/Sentences.h"
 #include "pdf/HiddenPictures.h"
 #include "pdf/PDFServicePool.h"
 #include "pdf/PDFServiceWorker.h"
@@ -71,7 +72,7 @@ void PDFImageRep::Pool::abandon()
 RenderedPage PDFImageRep::Pool::draw(int pageIndex, const QString& path)
 {
     if (pageIndex < 0)
-        return { .written = false, .problem = u"the document has no such page"_s };
+        return { .written = false, .problem = Sentences::tr("the document has no such page") };
     const size_t place = placeInPlan(pageIndex);
     return place < iPlan.size() ? takeFromPlan(place, path) : drawDirectly(pageIndex, path);
 }
@@ -99,7 +100,7 @@ RenderedPage PDFImageRep::Pool::drawDirectly(int pageIndex, const QString& path)
 {
     const HiddenPictures pictures(iOptions);
     if (!pictures.isUsable())
-        return { .written = false, .problem = u"the work folder can't be written"_s };
+        return { .written = false, .problem = Sentences::tr("the work folder can't be written") };
     return pictures.moveTo(path, 0, iDirect.ask(pictures.renderRequest(pageIndex, 0)));
 }
 

@@ -3,6 +3,7 @@
 
 #include "base/Log.h"
 #include "base/ResourceFolder.h"
+#include "base/Sentences.h"
 
 #include <QJsonDocument>
 
@@ -19,13 +20,13 @@ namespace {
     {
         switch (ending.how) {
         case Ending::How::ExitStatus:
-            return u"exit status %1"_s.arg(ending.code);
+            return Sentences::tr("exit status %1").arg(ending.code);
         case Ending::How::Signal:
-            return u"signal %1"_s.arg(ending.code);
+            return Sentences::tr("signal %1").arg(ending.code);
         case Ending::How::Unknown:
             break;
         }
-        return u"it is not known how"_s;
+        return Sentences::tr("it is not known how");
     }
 
     PDFServiceAnswer failure(Outcome outcome, const QString& problem)
@@ -35,12 +36,13 @@ namespace {
 
     PDFServiceAnswer notStarted(const QString& why)
     {
-        return failure(Outcome::NotStarted, u"the PDF service could not be started: "_s + why);
+        return failure(
+            Outcome::NotStarted, Sentences::tr("the PDF service could not be started: ") + why);
     }
 
     PDFServiceAnswer stopped()
     {
-        return failure(Outcome::Stopped, u"it was stopped"_s);
+        return failure(Outcome::Stopped, Sentences::tr("it was stopped"));
     }
 
     PDFServiceAnswer refusal(const QJsonObject& fields)
@@ -48,7 +50,8 @@ namespace {
         const QString message = fields["message"_L1].toString();
         return { .outcome = Outcome::Refused,
             .error = fields["error"_L1].toString(),
-            .problem = message.isEmpty() ? u"the PDF service could not read it"_s : message };
+            .problem
+            = message.isEmpty() ? Sentences::tr("the PDF service could not read it") : message };
     }
 
 } // namespace
@@ -58,7 +61,7 @@ std::optional<PDFServiceAnswer> PDFServiceProcess::start(const PDFServiceLimits&
     const QString program
         = ResourceFolder::helperProgram(u"leafcast-pdf"_s, "LEAFCAST_PDF_SERVICE");
     if (program.isEmpty())
-        return notStarted(u"the program leafcast-pdf is missing"_s);
+        return notStarted(Sentences::tr("the program leafcast-pdf is missing"));
     iChannel = LineChannel(iChild.start(program,
         { u"--memory-limit"_s, QString::number(limits.memoryMebibytes), u"--page-seconds"_s,
             QString::number(limits.pageSeconds) }));
@@ -108,9 +111,11 @@ PDFServiceAnswer PDFServiceProcess::failed(LineChannel::Result result, std::chro
     end();
     if (result == LineChannel::Result::TimedOut)
         return failure(Outcome::TimedOut,
-            limit.count() == 1 ? u"it took longer than a second"_s
-                               : u"it took longer than %1 seconds"_s.arg(limit.count()));
-    return failure(Outcome::Died, u"the PDF service gave an answer that makes no sense"_s);
+            limit.count() == 1
+                ? Sentences::tr("it took longer than a second")
+                : Sentences::tr("it took longer than %1 seconds").arg(limit.count()));
+    return failure(
+        Outcome::Died, Sentences::tr("the PDF service gave an answer that makes no sense"));
 }
 
 PDFServiceAnswer PDFServiceProcess::died()
@@ -122,7 +127,8 @@ PDFServiceAnswer PDFServiceProcess::died()
         return notStarted(ending.lastWords);
     if (!ending.lastWords.isEmpty())
         LOG_DEBUG("PDFServiceProcess", ending.lastWords);
-    return failure(Outcome::Died, u"the PDF service crashed over it (%1)"_s.arg(described(ending)));
+    return failure(Outcome::Died,
+        Sentences::tr("the PDF service crashed over it (%1)").arg(described(ending)));
 }
 
 } // namespace leafcast

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "publish/BookName.h"
 
+#include "base/Sentences.h"
+
 #include <algorithm>
 #include <QDir>
 #include <QFileInfo>
@@ -25,13 +27,13 @@ QString nameProblem(const QString& name)
 {
     const auto isControl = [](QChar c) { return c.category() == QChar::Other_Control; };
     if (name.trimmed().isEmpty())
-        return u"it is empty"_s;
+        return Sentences::tr("it is empty");
     if (name.contains(u'/'))
-        return u"it must be a name without a folder"_s;
+        return Sentences::tr("it must be a name without a folder");
     if (name.startsWith(u'.'))
-        return u"it starts with a dot, which would hide it"_s;
+        return Sentences::tr("it starts with a dot, which would hide it");
     if (std::ranges::any_of(name, isControl))
-        return u"it holds a control character"_s;
+        return Sentences::tr("it holds a control character");
     return {};
 }
 

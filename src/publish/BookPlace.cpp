@@ -3,6 +3,7 @@
 
 #include "base/FileSteps.h"
 #include "base/FolderWalk.h"
+#include "base/Sentences.h"
 #include "publish/BookCheck.h"
 #include "publish/BookRoom.h"
 
@@ -52,7 +53,8 @@ QString BookPlace::folderProblem() const
     const QStringList names = FolderWalk::entryNames(iFolder);
     if (names.isEmpty())
         return {};
-    return u"the folder %1 holds no book but other things (%2), which the book would lie among and may replace"_s
+    return Sentences::tr("the folder %1 holds no book but other things (%2), which the book would "
+                         "lie among and may replace")
         .arg(iFolder, shortList(names));
 }
 
@@ -61,17 +63,19 @@ QString BookPlace::packageProblem() const
     if (!FileSteps::exists(iPackagePath) || isBookPackage(iPackagePath))
         return {};
     const QStringList names = FolderWalk::entryNames(iPackagePath);
-    return u"%1 is no book package and would be lost with all it holds%2"_s.arg(
-        iPackagePath, names.isEmpty() ? QString() : u" (%1)"_s.arg(shortList(names)));
+    return Sentences::tr("%1 is no book package and would be lost with all it holds%2")
+        .arg(iPackagePath, names.isEmpty() ? QString() : u" (%1)"_s.arg(shortList(names)));
 }
 
 QString BookPlace::writingProblem() const
 {
     const QString nearest = nearestExisting(iFolder);
     if (!QFileInfo(nearest).isDir())
-        return u"the output folder %1 can't be made: %2 is no folder"_s.arg(iFolder, nearest);
+        return Sentences::tr("the output folder %1 can't be made: %2 is no folder")
+            .arg(iFolder, nearest);
     if (access(QFile::encodeName(nearest).constData(), W_OK | X_OK) != 0)
-        return u"the output folder %1 can't be written to: %2"_s.arg(iFolder, qt_error_string());
+        return Sentences::tr("the output folder %1 can't be written to: %2")
+            .arg(iFolder, qt_error_string());
     return {};
 }
 
@@ -82,8 +86,8 @@ QString BookPlace::nameLengthProblem(const QString& name) const
         = pathconf(QFile::encodeName(nearestExisting(iFolder)).constData(), _PC_NAME_MAX);
     if (limit <= 0 || size <= limit)
         return {};
-    return u"the name %1 has %2 bytes, and in %3 there is room for %4"_s.arg(
-        name, QString::number(size), iFolder, QString::number(limit));
+    return Sentences::tr("the name %1 has %2 bytes, and in %3 there is room for %4")
+        .arg(name, QString::number(size), iFolder, QString::number(limit));
 }
 
 QStringList BookPlace::replacedPaths() const

@@ -3,6 +3,7 @@
 
 #include "base/FileSteps.h"
 #include "base/Log.h"
+#include "base/Sentences.h"
 #include "publish/BookCheck.h"
 #include "publish/BookName.h"
 #include "publish/BookRoom.h"
@@ -77,26 +78,27 @@ QString BookPublication::problem() const
     return firstOf({ iPlace.nameLengthProblem(isPackage ? QFileInfo(iPlace.bookPath()).fileName()
                                                         : pageFileName(iChoices)),
         iPlace.inputProblem(filesRead()),
-        roomProblem(bytesForBook(*iWriter), nearestExisting(iPlace.folder()), u"the book"_s) });
+        roomProblem(
+            bytesForBook(*iWriter), nearestExisting(iPlace.folder()), Sentences::tr("the book")) });
 }
 
 QString BookPublication::nameProblem() const
 {
     const QString reason = leafcast::nameProblem(iChoices.name);
-    return reason.isEmpty() ? QString() : u"the name can't be used: %1"_s.arg(reason);
+    return reason.isEmpty() ? QString() : Sentences::tr("the name can't be used: %1").arg(reason);
 }
 
 QString BookPublication::folderProblem() const
 {
     if (iChoices.folder.trimmed().isEmpty())
-        return u"the output folder has no name"_s;
+        return Sentences::tr("the output folder has no name");
     if (const QString problem = iPlace.writingProblem(); !problem.isEmpty())
         return problem;
     // A mistyped path does not become a tree of folders.
     const QString parent = QFileInfo(iPlace.folder()).path();
     if (!QFileInfo(parent).isDir())
-        return u"the output folder %1 can't be made: there is no folder %2"_s.arg(
-            iPlace.folder(), parent);
+        return Sentences::tr("the output folder %1 can't be made: there is no folder %2")
+            .arg(iPlace.folder(), parent);
     return {};
 }
 
@@ -121,19 +123,19 @@ try {
 } catch (const std::exception& exception) {
     const QString reason = QString::fromUtf8(exception.what());
     LOG_ERROR("BookPublication", u"publish error:%1"_s.arg(reason));
-    iFailure = u"the book could not be written: %1"_s.arg(reason);
+    iFailure = Sentences::tr("the book could not be written: %1").arg(reason);
 }
 
 void BookPublication::write()
 {
     if (!makeFolder()) {
-        iFailure = u"the output folder %1 can't be made"_s.arg(iPlace.folder());
+        iFailure = Sentences::tr("the output folder %1 can't be made").arg(iPlace.folder());
         return;
     }
     const OutputLock lock(iPlace.folder());
     if (!lock.take()) {
-        iFailure = u"another program is writing into %1; try again when it is done"_s.arg(
-            iPlace.folder());
+        iFailure = Sentences::tr("another program is writing into %1; try again when it is done")
+                       .arg(iPlace.folder());
         return;
     }
     iWriter->ouputTheBook();
@@ -166,9 +168,9 @@ QString BookPublication::incompleteness() const
             files.append(iWriter->pageFileName(*page));
     if (files.isEmpty())
         return {};
-    return files.size() == 1 ? u"%1 could not be written"_s.arg(files.constFirst())
-                             : u"%1 and %2 more could not be written"_s.arg(
-                                 files.constFirst(), QString::number(files.size() - 1));
+    return files.size() == 1 ? Sentences::tr("%1 could not be written").arg(files.constFirst())
+                             : Sentences::tr("%1 and %2 more could not be written")
+                                   .arg(files.constFirst(), QString::number(files.size() - 1));
 }
 
 } // namespace leafcast

@@ -3,6 +3,7 @@
 
 #include "base/DataSize.h"
 #include "base/FileSteps.h"
+#include "base/Sentences.h"
 #include "publish/FlashBookOutput.h"
 #include "templates/PropertyWalk.h"
 
@@ -77,8 +78,9 @@ QString roomProblem(qint64 bytesNeeded, const QString& folder, const QString& wh
     const std::optional<qint64> available = freeBytes(folder);
     if (!available || bytesNeeded <= *available)
         return {};
-    return u"there is no room for %1 in %2: it needs %3 more, and the disk has %4 left"_s.arg(
-        what, folder, dataSize(bytesNeeded), dataSize(*available));
+    return Sentences::tr(
+        "there is no room for %1 in %2: it needs %3 more, and the disk has %4 left")
+        .arg(what, folder, dataSize(bytesNeeded), dataSize(*available));
 }
 
 } // namespace leafcast

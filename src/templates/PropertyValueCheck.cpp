@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "templates/PropertyValueCheck.h"
 
+#include "base/Sentences.h"
 #include "templates/FlashTemplateProperty.h"
 #include "templates/ScriptHazard.h"
 
@@ -29,7 +30,7 @@ namespace {
     PropertyValueCheck checkNumber(const FlashTemplateProperty&, const QString& typed)
     {
         return isScriptNumber(typed) ? accepted(typed.trimmed())
-                                     : refused(u"it must be a number"_s);
+                                     : refused(Sentences::tr("it must be a number"));
     }
 
     QString doubled(const QString& digits)
@@ -45,7 +46,7 @@ namespace {
         static const QRegularExpression color(u"\\A(?:(?:#|0x)([0-9a-f]{6})|#([0-9a-f]{3}))\\z"_s);
         const auto match = color.match(typed.trimmed().toLower());
         if (!match.hasMatch())
-            return refused(u"it must be a colour such as #1a2b3c"_s);
+            return refused(Sentences::tr("it must be a colour such as #1a2b3c"));
         return accepted(u"0x"_s + match.captured(1) + doubled(match.captured(2)));
     }
 
@@ -60,7 +61,7 @@ namespace {
                 return accepted(choice);
             shown.append(choice.trimmed());
         }
-        return refused(u"it must be one of %1"_s.arg(shown.join(u", "_s)));
+        return refused(Sentences::tr("it must be one of %1").arg(shown.join(u", "_s)));
     }
 
     PropertyValueCheck checkFile(const FlashTemplateProperty&, const QString& typed)
@@ -69,9 +70,10 @@ namespace {
             return accepted(typed);
         const QFileInfo file(typed);
         if (!file.exists())
-            return refused(u"there is no such file"_s);
-        return file.isFile() ? accepted(file.absoluteFilePath())
-                             : refused(u"it must be a file, not a folder or a device"_s);
+            return refused(Sentences::tr("there is no such file"));
+        return file.isFile()
+            ? accepted(file.absoluteFilePath())
+            : refused(Sentences::tr("it must be a file, not a folder or a device"));
     }
 
     PropertyValueCheck checkSwitch(const FlashTemplateProperty&, const QString& typed)
@@ -82,7 +84,7 @@ namespace {
             return accepted(u"YES"_s);
         return off.contains(typed.trimmed(), Qt::CaseInsensitive)
             ? accepted(u"NO"_s)
-            : refused(u"it must be yes or no"_s);
+            : refused(Sentences::tr("it must be yes or no"));
     }
 
     struct TypeCheck {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "templates/ScriptHazard.h"
 
+#include "base/Sentences.h"
 #include "templates/PropertyWalk.h"
 #include "templates/ScriptEntry.h"
 
@@ -16,12 +17,15 @@ namespace {
 
     struct Breaker {
         QLatin1StringView characters;
-        QLatin1StringView name;
+        const char* name;
     };
 
-    constexpr std::array textBreakers{ Breaker{ "\""_L1, "a double quote"_L1 },
-        Breaker{ "\\"_L1, "a backslash"_L1 }, Breaker{ "\n"_L1, "a line break"_L1 },
-        Breaker{ "\r"_L1, "a line break"_L1 } };
+    constexpr std::array textBreakers{
+        Breaker{ "\""_L1, QT_TRANSLATE_NOOP("leafcast::Sentences", "a double quote") },
+        Breaker{ "\\"_L1, QT_TRANSLATE_NOOP("leafcast::Sentences", "a backslash") },
+        Breaker{ "\n"_L1, QT_TRANSLATE_NOOP("leafcast::Sentences", "a line break") },
+        Breaker{ "\r"_L1, QT_TRANSLATE_NOOP("leafcast::Sentences", "a line break") }
+    };
 
     bool isIdentifier(const QString& key)
     {
@@ -34,15 +38,16 @@ namespace {
     {
         for (const auto& [characters, name] : textBreakers)
             if (value.contains(characters))
-                return u"its value holds %1"_s.arg(name);
+                return Sentences::tr("its value holds %1").arg(Sentences::tr(name));
         return {};
     }
 
     QString whyNoNumber(const QString& value)
     {
         if (value.trimmed().isEmpty())
-            return u"its value is empty and must be a number"_s;
-        return isScriptNumber(value) ? QString() : u"its value \"%1\" is not a number"_s.arg(value);
+            return Sentences::tr("its value is empty and must be a number");
+        return isScriptNumber(value) ? QString()
+                                     : Sentences::tr("its value \"%1\" is not a number").arg(value);
     }
 
 } // namespace
@@ -51,7 +56,7 @@ QString scriptHazardOf(const FlashTemplateProperty& property)
 {
     const ScriptEntry entry(property);
     if (!isIdentifier(entry.key))
-        return u"its key is not a name that a script can hold"_s;
+        return Sentences::tr("its key is not a name that a script can hold");
     return entry.isQuoted ? whyNoText(entry.value) : whyNoNumber(entry.value);
 }
 

@@ -33,7 +33,7 @@ const TOOL_BAR = [
   bool('toolBarVisible', 'Tool bar', 'Shows the tool bar. Switched off, the buttons beside the pages remain.', 'YES', 'Visible'),
   color('toolBarColor', 'Colour', 'Colour of the tool bar, the panels and the buttons beside the pages.', '0xfbfaf8'),
   color('toolBarTextColor', 'Text colour', 'Colour of text and symbols on the tool bar, the panels and the buttons beside the pages.', '0x33332f'),
-  button('viewModeVisible', 'Pages side by side', 'Button that changes between one page and two.'),
+  button('viewModeVisible', 'Pages side by side', 'Button that changes between one page at a time, two, and other pairs of pages.'),
   button('fullScreenButtonVisible', 'Full screen', 'Button that fills the whole screen with the book, in browsers that can do so.'),
   button('printVisible', 'Print', 'Button that prints the pages that the reader chooses.'),
 ];

@@ -2,6 +2,7 @@
 #include "pages/import/ImageImport.h"
 
 #include "base/NamedException.h"
+#include "base/Sentences.h"
 #include "pages/ImageFiles.h"
 #include "pages/ImageHeader.h"
 
@@ -15,7 +16,7 @@ namespace {
     {
         for (const QString& file : files)
             if (const QString reason = ImageFiles::problem(file); !reason.isEmpty())
-                return u"%1 can't be used: %2"_s.arg(file, reason);
+                return Sentences::tr("%1 can't be used: %2").arg(file, reason);
         return {};
     }
 
@@ -25,8 +26,9 @@ namespace {
         for (const qint32 number : FlashPageSource::parsePageRange(range, count))
             if (number >= 1 && number <= count)
                 source.addImgPageFromFile(files.at(number - 1));
-        return source.pages().empty() ? u"the page range names none of the %1 images"_s.arg(count)
-                                      : QString();
+        return source.pages().empty()
+            ? Sentences::tr("the page range names none of the %1 images").arg(count)
+            : QString();
     } catch (const NamedException& exception) {
         return exception.reason();
     }

@@ -151,7 +151,7 @@ void ImportWindowDelegate::importAsked()
 void ImportWindowDelegate::onImportAction()
 {
     if (iImages.isEmpty() && !QFileInfo::exists(iForm->txtImportFile->text())) {
-        iForm->lblInfo->showProblem(u"Import PDF file does not exist."_s);
+        iForm->lblInfo->showProblem(tr("Import PDF file does not exist."));
         return;
     }
     iIsImporting = true;
@@ -221,7 +221,7 @@ void ImportWindowDelegate::mainThread_handleMSG(const Notification& notification
         return;
     const int page = notification.userInfo.value(u"pageIndex"_s).toInt();
     const int total = notification.userInfo.value(u"totalPage"_s).toInt();
-    iForm->lblInfo->showNote(u"Importing:%1/%2"_s.arg(page).arg(total));
+    iForm->lblInfo->showNote(tr("Importing:%1/%2").arg(page).arg(total));
     // Listing the pages afterwards takes no time; the bar does not run twice.
     if (notification.userInfo.value(u"type"_s) != u"geneatePage"_s)
         return;

@@ -104,7 +104,7 @@ void OutputWindowDelegate::onSelectFolder()
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setFileMode(QFileDialog::Directory);
     panel->setOption(QFileDialog::ShowDirsOnly);
-    panel->setLabelText(QFileDialog::Accept, u"Choose folder"_s);
+    panel->setLabelText(QFileDialog::Accept, tr("Choose folder"));
     connect(panel, &QDialog::finished, this, [this, panel, former](int code) {
         const QStringList folders = panel->selectedFiles();
         openPanelDidEnd(
@@ -236,12 +236,12 @@ void OutputWindowDelegate::publicationEnded()
 void OutputWindowDelegate::askToOpen(const QString& path)
 {
     auto* alert = new QMessageBox(QMessageBox::Information, windowTitle(),
-        u"Open the result files?"_s, QMessageBox::NoButton, this);
+        tr("Open the result files?"), QMessageBox::NoButton, this);
     alert->setObjectName(u"openQuestion"_s);
     alert->setAttribute(Qt::WA_DeleteOnClose);
-    alert->setInformativeText(u"Publish finished! Open the it?"_s);
-    QPushButton* open = alert->addButton(u"Open it"_s, QMessageBox::AcceptRole);
-    alert->setEscapeButton(alert->addButton(u"No"_s, QMessageBox::RejectRole));
+    alert->setInformativeText(tr("Publish finished! Open the it?"));
+    QPushButton* open = alert->addButton(tr("Open it"), QMessageBox::AcceptRole);
+    alert->setEscapeButton(alert->addButton(tr("No"), QMessageBox::RejectRole));
     alert->setDefaultButton(open);
     connect(alert, &QDialog::finished, this, [this, alert, open, path] {
         if (alert->clickedButton() == open)

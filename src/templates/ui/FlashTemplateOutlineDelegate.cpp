@@ -6,6 +6,7 @@
 #include "templates/ui/FlashTmplCell.h"
 #include "templates/ui/ProblemMark.h"
 #include "templates/ui/PropertyProblem.h"
+#include "templates/ui/TemplateText.h"
 
 #include <algorithm>
 #include <QFont>
@@ -147,7 +148,8 @@ QVariant FlashTemplateOutlineDelegate::data(const QModelIndex& index, int role) 
     if (index.column() == ValueColumn)
         return valueData(*property, role);
     const bool isTitle = role == Qt::DisplayRole || role == Qt::ToolTipRole;
-    return isTitle ? objectValueForTableColumn(u"key"_s, *property) : QVariant();
+    return isTitle ? TemplateText::of(objectValueForTableColumn(u"key"_s, *property).toString())
+                   : QVariant();
 }
 
 QVariant FlashTemplateOutlineDelegate::valueData(FlashTemplateProperty& property, int role) const

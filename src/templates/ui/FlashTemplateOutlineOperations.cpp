@@ -6,6 +6,7 @@
 #include "templates/ui/FlashTmplFileCell.h"
 #include "templates/ui/FlashTmplListCell.h"
 #include "templates/ui/FlashTmplSwitchCell.h"
+#include "templates/ui/TemplateText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -183,7 +184,7 @@ std::vector<PropertyChange> FlashTemplateOutlineDelegate::changesToDefaults() co
 void FlashTemplateOutlineDelegate::resetToDefault(FlashTemplateProperty& item)
 {
     if (isChanged(item))
-        iEdits.setValues(tr("Reset of “%1”").arg(item.title()),
+        iEdits.setValues(tr("Reset of “%1”").arg(TemplateText::of(item.title())),
             { { &item, item.value(), iDefaults.valueOf(item) } });
 }
 

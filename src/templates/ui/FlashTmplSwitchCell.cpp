@@ -4,6 +4,7 @@
 #include "templates/ColorCategory.h"
 #include "templates/FlashTemplateProperty.h"
 #include "templates/ui/CellStyle.h"
+#include "templates/ui/TemplateText.h"
 
 #include <algorithm>
 #include <QCoreApplication>
@@ -32,7 +33,7 @@ namespace {
 
 QString FlashTmplSwitchCell::caption() const
 {
-    return pro().aTitle();
+    return TemplateText::of(pro().aTitle());
 }
 
 void FlashTmplSwitchCell::show(const FlashTemplateProperty& item)

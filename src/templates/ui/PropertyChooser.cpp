@@ -4,6 +4,7 @@
 #include "templates/ui/FlashTemplateOutlineDelegate.h"
 #include "templates/ui/FlashTmplColorCell.h"
 #include "templates/ui/FlashTmplFileCell.h"
+#include "templates/ui/TemplateText.h"
 
 #include <QColorDialog>
 #include <QFileDialog>
@@ -67,7 +68,7 @@ void PropertyChooser::chooseColor(const QPersistentModelIndex& index)
     auto* dialog = new QColorDialog(&iWindow);
     dialog->setObjectName(u"colorDialog"_s);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(property.title());
+    dialog->setWindowTitle(TemplateText::of(property.title()));
     dialog->setCurrentColor(toQColor(color));
     connect(dialog, &QColorDialog::colorSelected, this, [this, index](const QColor& chosen) {
         if (auto* chosenFor = FlashTemplateOutlineDelegate::propertyAt(index)) {
@@ -82,7 +83,7 @@ void PropertyChooser::chooseFile(const QPersistentModelIndex& index)
 {
     auto& property = *FlashTemplateOutlineDelegate::propertyAt(index);
     const auto panel = iOutline.onSelectFile(FlashTmplFileCell(property));
-    auto* dialog = new QFileDialog(&iWindow, property.title());
+    auto* dialog = new QFileDialog(&iWindow, TemplateText::of(property.title()));
     dialog->setObjectName(u"fileDialog"_s);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFile);

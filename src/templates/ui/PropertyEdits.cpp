@@ -3,6 +3,7 @@
 
 #include "base/NotificationCenter.h"
 #include "templates/TemplateNotifications.h"
+#include "templates/ui/TemplateText.h"
 
 #include <utility>
 
@@ -18,7 +19,8 @@ bool PropertyEdits::setValue(FlashTemplateProperty& property, const QString& val
     if (value == property.value())
         return false;
     const bool inSession = iEdited == &property;
-    push(tr("Change of “%1”").arg(property.title()), { { &property, property.value(), value } },
+    push(tr("Change of “%1”").arg(TemplateText::of(property.title())),
+        { { &property, property.value(), value } },
         inSession ? iSession : PropertyValueCommand::noSession);
     return true;
 }

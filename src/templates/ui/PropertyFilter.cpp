@@ -2,6 +2,7 @@
 #include "templates/ui/PropertyFilter.h"
 
 #include "templates/ui/FlashTemplateOutlineDelegate.h"
+#include "templates/ui/TemplateText.h"
 
 #include <algorithm>
 
@@ -26,9 +27,9 @@ bool PropertyFilter::filterAcceptsRow(int row, const QModelIndex& parent) const
         = FlashTemplateOutlineDelegate::propertyAt(sourceModel()->index(row, 0, parent));
     if (!property)
         return false;
-    const QString text
-        = QStringList{ property->title(), property->aTitle(), property->desc(), property->key() }
-              .join(u'\n');
+    const QString text = QStringList{ TemplateText::of(property->title()),
+        TemplateText::of(property->aTitle()), TemplateText::of(property->desc()), property->key() }
+                             .join(u'\n');
     return std::ranges::all_of(
         iWords, [&text](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
 }

@@ -4,6 +4,7 @@
 #include "templates/FlashTemplateProperty.h"
 #include "templates/ui/ProblemMark.h"
 #include "templates/ui/PropertyProblem.h"
+#include "templates/ui/TemplateText.h"
 
 #include <QAction>
 #include <QLabel>
@@ -71,9 +72,9 @@ PropertyHelp::PropertyHelp(QAction& resetAction, QWidget* parent)
 
 void PropertyHelp::showProperty(const FlashTemplateProperty& property)
 {
-    setTitle(property.title());
-    if (iToolTip->toPlainText() != property.desc())
-        iToolTip->setPlainText(property.desc());
+    setTitle(TemplateText::of(property.title()));
+    if (const QString text = TemplateText::of(property.desc()); iToolTip->toPlainText() != text)
+        iToolTip->setPlainText(text);
     const QString problem = propertyProblem(property);
     QPalette palette;
     palette.setColor(QPalette::WindowText, ProblemMark::color());

@@ -4,6 +4,7 @@
 #include "templates/ui/FlashTemplateOutlineDelegate.h"
 #include "templates/ui/FlashTmplCell.h"
 #include "templates/ui/ProblemMark.h"
+#include "templates/ui/TemplateText.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -89,8 +90,8 @@ QWidget* PropertyItemDelegate::createEditor(
     if (!editor)
         return nullptr;
     editor->setObjectName(u"propertyEditor"_s);
-    editor->setAccessibleName(property->title());
-    editor->setAccessibleDescription(property->desc());
+    editor->setAccessibleName(TemplateText::of(property->title()));
+    editor->setAccessibleDescription(TemplateText::of(property->desc()));
     connectEditor(editor);
     iOutline.edits().beginSession(*property);
     return editor;
