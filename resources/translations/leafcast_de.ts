@@ -1516,15 +1516,4 @@
         <translation>Die Pfeiltasten, die Leertaste, Bild auf, Bild ab, Pos1 und Ende rollen, wo immer der Fokus ist; andere Tasten suchen und vergrößern. Das Fragezeichen zeigt sie alle. Ausgeschaltet bleiben nur die Tasten des Browsers selbst.</translation>
     </message>
 </context>
-<context>
-    <name>main</name>
-    <message>
-        <source>Turns a PDF into a page-turning digital book.</source>
-        <translation>Macht aus einem PDF ein digitales Buch zum Blättern.</translation>
-    </message>
-    <message>
-        <source>A PDF, or pictures, to make a book of</source>
-        <translation>Ein PDF oder Bilder, woraus ein Buch werden soll</translation>
-    </message>
-</context>
 </TS>

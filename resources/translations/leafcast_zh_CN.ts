@@ -1516,15 +1516,4 @@
         <translation>方向键、空格键、Page Up、Page Down、Home 和 End 无论焦点在哪里都能滚动，其他按键用于搜索和缩放；按问号可查看全部按键。关闭后，只剩浏览器自身的按键。</translation>
     </message>
 </context>
-<context>
-    <name>main</name>
-    <message>
-        <source>Turns a PDF into a page-turning digital book.</source>
-        <translation>把 PDF 变成可以翻页的电子书。</translation>
-    </message>
-    <message>
-        <source>A PDF, or pictures, to make a book of</source>
-        <translation>用来制作电子书的 PDF 或图片</translation>
-    </message>
-</context>
 </TS>

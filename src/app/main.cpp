@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "app/CommandLine.h"
 #include "app/Language.h"
 #include "app/Leafcast_for_iPad_MacAppDelegate.h"
 #include "app/MainWindow.h"
 #include "app/SingleInstance.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
-#include <QFileInfo>
 #include <QLocale>
 #include <unistd.h>
 
@@ -14,22 +13,6 @@ using namespace Qt::StringLiterals;
 using namespace leafcast;
 
 namespace {
-
-QStringList filesOf(const QCoreApplication& application)
-{
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QCoreApplication::translate("main", "Turns a PDF into a page-turning digital book."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addPositionalArgument(u"files"_s,
-        QCoreApplication::translate("main", "A PDF, or pictures, to make a book of"), u"[FILE…]"_s);
-    parser.process(application);
-    QStringList files;
-    for (const QString& argument : parser.positionalArguments())
-        files.append(QFileInfo(argument).absoluteFilePath());
-    return files;
-}
 
 void comeToTheFront(MainWindow& window)
 {
@@ -42,13 +25,18 @@ void comeToTheFront(MainWindow& window)
 
 int main(int argc, char** argv)
 {
+    CommandLine commandLine;
+    if (const auto status = commandLine.answerWithoutWindows(argc, argv))
+        return *status;
     QCoreApplication::setApplicationName(u"leafcast-desktop"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(LEAFCAST_VERSION));
     QGuiApplication::setDesktopFileName(u"leafcast-desktop"_s);
     const QApplication application(argc, argv);
     QApplication::setWindowIcon(QIcon(u":/icons/leafcast.svg"_s));
     speakFirstOf(QLocale::system().uiLanguages());
-    const QStringList files = filesOf(application);
+    if (const auto status = commandLine.parse(argc, argv))
+        return *status;
+    const QStringList files = commandLine.files();
 
     SingleInstance instance(u"leafcast-desktop-%1"_s.arg(getuid()));
     if (!instance.claim(files))

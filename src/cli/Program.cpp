@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Program.h"
 
-#include "cli/Command.h"
 #include "cli/Console.h"
 
 using namespace Qt::StringLiterals;
@@ -10,13 +9,25 @@ namespace leafcast {
 
 namespace {
 
-    constexpr const char* footer = R"(With every command:
-  -v,--verbose            --log-file FILE
+    QString exitCodeColumn(size_t position)
+    {
+        if (position >= exitCodeTexts.size())
+            return {};
+        const auto& [code, text] = exitCodeTexts.at(position);
+        return u"%1  %2"_s.arg(static_cast<int>(code), 3).arg(QLatin1String(text));
+    }
 
-Exit status:
-  0  complete             3  input unreadable
-  1  something missing    4  output not writable
-  2  wrong usage          5  password needed or wrong    130  interrupted)";
+    std::string footer()
+    {
+        QString footer = u"With every command:\n  -v,--verbose            --log-file FILE\n\n"
+                         "Exit status:"_s;
+        constexpr size_t rows = (exitCodeTexts.size() + 1) / 2;
+        constexpr int columnWidth = 26;
+        for (size_t row = 0; row < rows; ++row)
+            footer += u'\n' + exitCodeColumn(row).leftJustified(columnWidth)
+                + exitCodeColumn(row + rows);
+        return footer.toStdString();
+    }
 
     /// Names in the usage line too what an option's own text names beside the option.
     class HelpText : public CLI::Formatter {
@@ -67,8 +78,15 @@ void describeProgram(CLI::App& program)
     program.set_version_flag("--version", "leafcast " LEAFCAST_VERSION);
     program.require_subcommand(1);
     program.fallthrough();
-    program.footer(footer);
+    program.footer(footer());
     program.formatter(std::make_shared<HelpText>());
+}
+
+void addCommands(CLI::App& program, Action& chosen)
+{
+    for (const auto& addCommand : { addPublishCommand, addServeCommand, addInspectCommand,
+             addTemplatesCommand, addStylesCommand, addSettingsCommand })
+        addCommand(program, chosen);
 }
 
 std::optional<int> parseArguments(CLI::App& program, int argc, char** argv)

@@ -74,10 +74,12 @@ namespace {
 void TemplateOptions::addTo(CLI::App& command)
 {
     command.add_option("--template", templateName, "Template of the book")
+        ->type_name("TEMPLATE")
         ->envname("LEAFCAST_TEMPLATE")
         ->capture_default_str();
     command
         .add_option("--style", styleName, "Style of the template; see: leafcast styles TEMPLATE")
+        ->type_name("STYLE")
         ->envname("LEAFCAST_STYLE");
     command.add_option("--settings", settingsFile, "Settings file to apply after the style")
         ->type_name("FILE");

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "cli/Command.h"
 #include "cli/Console.h"
 #include "cli/LogOptions.h"
 #include "cli/Program.h"
@@ -34,9 +33,7 @@ int main(int argc, char** argv)
     LogOptions logOptions;
     logOptions.addTo(program);
     Action action;
-    for (const auto& addCommand : { addPublishCommand, addServeCommand, addInspectCommand,
-             addTemplatesCommand, addStylesCommand, addSettingsCommand })
-        addCommand(program, action);
+    addCommands(program, action);
     if (const auto status = parseArguments(program, argc, argv))
         return *status;
     const QCoreApplication application(argc, argv);

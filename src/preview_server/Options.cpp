@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "preview_server/Options.h"
 
+#include <array>
 #include <charconv>
 #include <getopt.h>
 #include <string_view>
+#include <vector>
 
 namespace leafcast::preview {
 
@@ -27,15 +29,36 @@ namespace {
         return address;
     }
 
-    constexpr option LongOptions[] = {
-        { "port", required_argument, nullptr, 'p' },
-        { "bind", required_argument, nullptr, 'b' },
-        { "local-only", no_argument, nullptr, 'l' },
-        { "open", no_argument, nullptr, 'o' },
-        { "quiet", no_argument, nullptr, 'q' },
-        { "help", no_argument, nullptr, 'h' },
-        {},
-    };
+    constexpr std::array<OptionText, 6> Texts{ {
+        { 'p', "port", "N", "listen on this port (otherwise 8765 or the next free one)" },
+        { 'b', "bind", "ADDRESS", "listen on this IP address only" },
+        { 'l', "local-only", nullptr, "listen for browsers on this machine only" },
+        { 'o', "open", nullptr, "open the address in the browser of this machine" },
+        { 'q', "quiet", nullptr,
+            "print the line for programs alone, no address in words, no code" },
+        { 'h', "help", nullptr, "print this" },
+    } };
+
+    std::vector<option> longOptions()
+    {
+        std::vector<option> options;
+        options.reserve(Texts.size() + 1);
+        for (const OptionText& each : Texts)
+            options.push_back(
+                { each.name, each.value ? required_argument : no_argument, nullptr, each.letter });
+        options.push_back({});
+        return options;
+    }
+
+    std::string helpLine(const OptionText& option)
+    {
+        constexpr size_t indent = 18;
+        std::string line = std::string("  --") + option.name;
+        if (option.value)
+            line += std::string(" ") + option.value;
+        line.resize(indent, ' ');
+        return line + option.text + '\n';
+    }
 
     void take(int letter, const char* argument, Options& options)
     {
@@ -68,10 +91,11 @@ namespace {
 Options parseOptions(int argumentCount, char** arguments)
 {
     Options options;
+    const std::vector<option> known = longOptions();
     opterr = 0;
     for (;;) {
         const char* argument = arguments[optind];
-        const int letter = getopt_long(argumentCount, arguments, "+", LongOptions, nullptr);
+        const int letter = getopt_long(argumentCount, arguments, "+", known.data(), nullptr);
         if (letter == -1)
             break;
         take(letter, argument, options);
@@ -84,20 +108,25 @@ Options parseOptions(int argumentCount, char** arguments)
     return options;
 }
 
-std::string_view helpText()
+std::string_view purpose()
 {
-    return R"(Usage: iPadPreview [OPTIONS]
+    return "Serves the folder that it is started in to the browsers of this network, as a\n"
+           "preview: open the address that it prints, or scan the code with a tablet.";
+}
 
-Serves the folder that it is started in to the browsers of this network, as a
-preview: open the address that it prints, or scan the code with a tablet.
+std::span<const OptionText> optionTexts()
+{
+    return Texts;
+}
 
-  --port N        listen on this port (otherwise 8765 or the next free one)
-  --bind ADDRESS  listen on this IP address only
-  --local-only    listen for browsers on this machine only
-  --open          open the address in the browser of this machine
-  --quiet         print the line for programs alone, no address in words, no code
-  --help          print this
-
+std::string helpText()
+{
+    std::string text = "Usage: iPadPreview [OPTIONS]\n\n";
+    text += purpose();
+    text += "\n\n";
+    for (const OptionText& option : Texts)
+        text += helpLine(option);
+    return text + R"(
 The first line on standard output is a JSON object with the addresses. It ends
 with Ctrl-C, or together with the program that started it.
 )";

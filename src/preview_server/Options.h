@@ -3,6 +3,7 @@
 
 #include <boost/asio/ip/address.hpp>
 #include <optional>
+#include <span>
 #include <stdexcept>
 #include <string>
 
@@ -26,6 +27,16 @@ struct WrongUsage : std::runtime_error {
 /// Throws WrongUsage.
 Options parseOptions(int argumentCount, char** arguments);
 
-std::string_view helpText();
+struct OptionText {
+    char letter; // of no meaning to people
+    const char* name; // without dashes
+    const char* value; // stands for its value; null for a switch
+    const char* text;
+};
+
+/// One sentence that says what the program does.
+std::string_view purpose();
+std::span<const OptionText> optionTexts();
+std::string helpText();
 
 } // namespace leafcast::preview

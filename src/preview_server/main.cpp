@@ -91,7 +91,7 @@ int main(int argumentCount, char** arguments)
         const Options options = parseOptions(argumentCount, arguments);
         if (!options.help)
             return serve(options);
-        print(std::string(helpText()));
+        print(helpText());
         return Fine;
     } catch (const WrongUsage& wrong) {
         std::fprintf(stderr, "iPadPreview: %s\n", wrong.what());
