@@ -2,7 +2,7 @@
 # The front door. Each target sets up what it needs first; a second run finds it there.
 SHELL := /bin/bash
 .DEFAULT_GOAL := help
-.PHONY: help demo app test asan bench bench-player samples shots golden lint format install clean
+.PHONY: help demo app test asan bench bench-player samples shots golden lint format install package clean
 
 DEMO_BOOK := build/demo-book
 PREFIX ?= /usr/local
@@ -75,6 +75,11 @@ install: ## Install the release build (PREFIX, DESTDIR)
 	@tools/setup app
 	@tools/build release
 	@DESTDIR="$(DESTDIR)" cmake --install build/release --prefix "$(PREFIX)"
+
+package: ## Build the Debian packages and check them
+	@tools/setup package
+	@tools/build release
+	@tools/package
 
 clean: ## Remove everything that was built
 	@rm -rf build

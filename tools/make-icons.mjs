@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Draws the icon of the viewer package from resources/images. Needs Chromium, icnsutils and pngquant.
+// Draws the icons of the viewer package and of the desktop application from resources/images.
+// Needs Chromium, icnsutils and pngquant.
 import { execFileSync } from 'node:child_process';
-import { mkdtempSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
+import { copyFileSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { fileURLToPath } from 'node:url';
@@ -9,11 +10,14 @@ import { drawHtml, launchBrowser } from './browser.mjs';
 
 const RESOURCES = fileURLToPath(new URL('../resources/', import.meta.url));
 const RESULT = RESOURCES + 'AppFiles/TmplData/mac.app/Contents/Resources/viewer.icns';
+const DESKTOP_ICONS = fileURLToPath(new URL('../packaging/desktop/icons/', import.meta.url));
 const LARGEST_SMALL_DRAWING = 32;
 
 // Element types of the icon file that hold PNG, by pixels; ic11 and ic12 are 16 and 32 points on a fine display.
 const PNG_ELEMENTS = { ic11: 32, ic12: 64, ic07: 128, ic08: 256, ic09: 512, ic10: 1024 };
-const SIZES = [16, ...Object.values(PNG_ELEMENTS)];
+// What icon themes ask for.
+const DESKTOP_SIZES = [16, 22, 24, 32, 48, 64, 128, 256, 512];
+const SIZES = new Set([...DESKTOP_SIZES, ...Object.values(PNG_ELEMENTS)]);
 
 function drawing(size) {
   const name = size > LARGEST_SMALL_DRAWING ? 'leafcast.svg' : 'leafcast-small.svg';
@@ -49,6 +53,7 @@ try {
     if (size > LARGEST_SMALL_DRAWING) quantize(path);
   }
   await browser.close();
+  for (const size of DESKTOP_SIZES) copyFileSync(join(folder, `${size}.png`), `${DESKTOP_ICONS}${size}.png`);
   const pngs = Object.entries(PNG_ELEMENTS).map(([type, size]) => element(type, readFileSync(join(folder, `${size}.png`))));
   writeFileSync(RESULT, element('icns', Buffer.concat([plainElements(folder), ...pngs])));
 } finally {
