@@ -7,14 +7,15 @@
 
 namespace leafcast {
 
-/// Keeps two programs from writing into one folder at the same time, until it is destroyed. The
-/// folder gets no file for it; on a file system without locks everybody gets it.
+/// Keeps two programs, or two threads of one, from writing into one folder at the same time, until
+/// it is destroyed. The folder gets no file for it; on a file system without locks everybody gets
+/// it.
 class OutputLock {
 public:
     /// The folder must exist.
     explicit OutputLock(const QString& folder);
 
-    /// False while another program has it.
+    /// False while another one has it.
     bool take() const;
 
 private:

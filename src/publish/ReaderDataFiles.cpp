@@ -4,6 +4,7 @@
 #include "base/FileSteps.h"
 #include "base/Log.h"
 #include "base/NotificationCenter.h"
+#include "publish/OutputLock.h"
 #include "publish/PublishNotifications.h"
 #include "publish/ReaderDataScript.h"
 #include "publish/ReaderDataWriter.h"
@@ -13,12 +14,15 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QThread>
 
 using namespace Qt::StringLiterals;
 
 namespace leafcast {
 
 namespace {
+
+    constexpr int retryMilliseconds = 20;
 
     std::vector<ReaderOutlineItem> outlineOf(const ReaderBook& book)
     {
@@ -53,14 +57,25 @@ namespace {
         return hash.result().toHex();
     }
 
-    /// In the page source's own work folder, which goes with it; empty for images.
-    QString keptFolder(const ReaderBook& book)
+    /// The page source's own, where its pictures lie; empty for images, whose folder is the user's.
+    QString workFolder(const FlashPageSource& source)
     {
-        const auto& pages = book.pageSource.normalPages();
-        if (!book.pageSource.document() || pages.empty() || !pages.front())
+        const auto& pages = source.normalPages();
+        if (!source.document() || pages.empty() || !pages.front())
             return {};
-        const QString folder = QFileInfo(pages.front()->pageFilePath()).path();
-        return folder + u"/.reader-data-"_s + QString::fromLatin1(fingerprint(book));
+        return QFileInfo(pages.front()->pageFilePath()).path();
+    }
+
+    /// A preview and a publication read the text of the same PDF, which answers one at a time.
+    /// False when the book is not wanted any more.
+    bool waitForTurn(const OutputLock& lock, const FlashPageSource& source)
+    {
+        while (!lock.take()) {
+            if (source.stop())
+                return false;
+            QThread::msleep(retryMilliseconds);
+        }
+        return true;
     }
 
 } // namespace
@@ -96,10 +111,14 @@ QStringList ReaderDataFiles::paths() const
 
 bool ReaderDataFiles::place(const ReaderBook& book) const
 {
-    const QString folder = keptFolder(book);
+    const QString folder = workFolder(book.pageSource);
     if (folder.isEmpty())
         return make(book);
-    const ReaderDataFiles kept(folder);
+    const OutputLock lock(folder);
+    if (!waitForTurn(lock, book.pageSource))
+        return false;
+    const ReaderDataFiles kept(
+        folder + u"/.reader-data-"_s + QString::fromLatin1(fingerprint(book)));
     if (QFileInfo(kept.bookFile()).isFile() || kept.make(book))
         return copyFrom(kept);
     kept.remove();

@@ -9,8 +9,9 @@ namespace leafcast {
 
 /// The files of reader data in a book's folder "files/search": "book.js", and "text-1.js",
 /// "text-2.js" and so on when the book has text. A PDF's text is read once: what was written is
-/// kept beside the page source's pictures, and an output of the same pages copies it. Other files
-/// in the folder are nobody's business here. Failures are logged.
+/// kept beside the page source's pictures, and an output of the same pages copies it: of two at the
+/// same time one waits for the other. Other files in the folder are nobody's business here.
+/// Failures are logged.
 class ReaderDataFiles {
 public:
     explicit ReaderDataFiles(const QString& folder)

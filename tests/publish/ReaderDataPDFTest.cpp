@@ -1,14 +1,20 @@
 // SPDX-License-Identifier: MIT
+#include "pages/FlashPageSourceCopy.h"
 #include "pages/FlashPageSourcePDF.h"
 #include "publish/BookContent.h"
 #include "publish/BookFixture.h"
+#include "publish/PublishNotifications.h"
 #include "support/FileSizeLimit.h"
+#include "support/Gate.h"
 #include "support/PDFBuilder.h"
 
+#include <future>
 #include <gtest/gtest.h>
+#include <QDeadlineTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QThread>
 #include <sys/stat.h>
 
 namespace leafcast {
@@ -57,6 +63,33 @@ protected:
         return status.st_ino;
     }
 
+    /// Another book of the pages, written on a thread of its own into a folder beside.
+    struct Other {
+        std::shared_ptr<FlashPageSourceCopy> pages;
+        std::future<void> end;
+    };
+    Other writeOther(const QString& name) const
+    {
+        const auto pages = std::make_shared<FlashPageSourceCopy>(source);
+        QDir().mkpath(resources.path(name));
+        const auto output = std::make_shared<FlashBookOutput>(
+            pages, flashTemplate, resources.path(name), QString());
+        return { pages, std::async(std::launch::async, [output] { output->ouputTheBook(); }) };
+    }
+    bool hasReaderData(const QString& name) const
+    {
+        return FileSteps::exists(resources.path(name + u"/files/search/book.js"_s));
+    }
+
+    template <typename Condition> static void waitFor(Condition condition)
+    {
+        const QDeadlineTimer patience(patienceLimit);
+        while (!condition() && !patience.hasExpired())
+            QThread::msleep(1);
+        ASSERT_TRUE(condition());
+    }
+
+    static constexpr std::chrono::seconds patienceLimit{ 60 };
     std::shared_ptr<FlashPageSourcePDF> source;
 };
 
@@ -152,6 +185,35 @@ TEST_F(ReaderDataPDFTest, MapsTargetsToPlacesAndDropsUnsafeAddresses)
     ASSERT_EQ(links.size(), 2);
     EXPECT_EQ(links[0][u"place"], 2);
     EXPECT_EQ(links[1][u"place"], 0);
+}
+
+TEST_F(ReaderDataPDFTest, IsReadOnceForBooksThatAreWrittenAtTheSameTime)
+{
+    PDFBuilder pdf;
+    for (int page = 0; page < 4; ++page)
+        pdf.addPage({ .content = PDFBuilder::showText("Leaf", 120, 100) });
+    import(pdf, u"ALL"_s);
+    std::atomic<int> pagesRead = 0;
+    const auto counting = NotificationCenter::defaultCenter().addObserver(
+        ReaderDataProgressMSG, [&](const Notification&) { ++pagesRead; });
+    Gate gate(ReaderDataProgressMSG, 1);
+    Other first = writeOther(u"first"_s);
+    waitFor([&] { return gate.isReached(); });
+    Other second = writeOther(u"second"_s);
+    Other stopped = writeOther(u"stopped"_s);
+    // The step before the reader data.
+    for (const QString& name : { u"second"_s, u"stopped"_s })
+        waitFor([&] { return FileSteps::exists(resources.path(name + u"/javascript/main.js"_s)); });
+    stopped.pages->setStop(true);
+    EXPECT_EQ(stopped.end.wait_for(patienceLimit), std::future_status::ready);
+    EXPECT_FALSE(hasReaderData(u"stopped"_s));
+
+    gate.open();
+    first.end.get();
+    second.end.get();
+    EXPECT_EQ(pagesRead, 4);
+    EXPECT_TRUE(hasReaderData(u"first"_s));
+    EXPECT_TRUE(hasReaderData(u"second"_s));
 }
 
 TEST_F(ReaderDataPDFTest, LeavesNothingWhenTheDiskIsFullOrItIsStopped)

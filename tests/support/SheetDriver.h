@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "base/NotificationCenter.h"
 #include "settings/AppSettings.h"
+#include "support/Gate.h"
 
-#include <atomic>
 #include <gtest/gtest.h>
 #include <memory>
 #include <QAbstractButton>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QSemaphore>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -57,35 +55,6 @@ protected:
         waitFor([this] { return !sheet->isVisible(); });
         return sheet->result();
     }
-
-    /// Holds a worker at a notification of that name and position, after the sheet's
-    /// own observer, until it is opened.
-    class Gate {
-    public:
-        Gate(const QString& name, int pageIndex)
-            : iRegistration(NotificationCenter::defaultCenter().addObserver(
-                name, [this, pageIndex](const Notification& notification) {
-                    if (notification.userInfo.value(QStringLiteral("pageIndex")).toInt()
-                        != pageIndex)
-                        return;
-                    iReached = true;
-                    iOpened.acquire();
-                }))
-        {
-        }
-        ~Gate() { open(); }
-        Gate(const Gate&) = delete;
-        Gate& operator=(const Gate&) = delete;
-
-        bool isReached() const { return iReached; }
-        /// For good.
-        void open() { iOpened.release(1000); }
-
-    private:
-        std::atomic<bool> iReached = false;
-        QSemaphore iOpened;
-        NotificationCenter::Registration iRegistration;
-    };
 
     QTemporaryDir folder;
     UserDefaults defaults{ folder.filePath(QStringLiteral("defaults.json")) };
