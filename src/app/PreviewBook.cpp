@@ -46,8 +46,16 @@ private:
 
 PreviewBook::~PreviewBook()
 {
+    stop();
+}
+
+void PreviewBook::stop()
+{
     if (iCurrent)
         iCurrent->stop();
+    iQueue.clear();
+    iCurrent.reset();
+    iNext.reset();
 }
 
 void PreviewBook::write(const Parts& parts, const QString& folder)

@@ -30,6 +30,8 @@ public:
 
     /// Copies what may change; the folder should be there.
     void write(const Parts& parts, const QString& folder);
+    /// Nothing of a book that is under way is written any more when it returns.
+    void stop();
     bool isWriting() const { return iCurrent != nullptr; }
 
 Q_SIGNALS:

@@ -3,6 +3,8 @@
 
 #include "base/Log.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace leafcast {
@@ -25,8 +27,15 @@ BackgroundQueue::BackgroundQueue()
 
 BackgroundQueue::~BackgroundQueue()
 {
+    clear();
+}
+
+void BackgroundQueue::clear()
+{
     iThread.clear();
     iThread.waitForDone();
+    QCoreApplication::removePostedEvents(&iReceiver);
+    iUntold = 0;
 }
 
 void BackgroundQueue::add(std::function<void()> work, std::function<void()> done)

@@ -8,8 +8,7 @@
 namespace leafcast {
 
 /// Runs pieces of work one after the other on a thread of its own, and tells its owner's thread,
-/// which has an event loop, when each has ended. Destruction waits for what is under way; what has
-/// not been told by then never is.
+/// which has an event loop, when each has ended. Destruction clears it.
 class BackgroundQueue {
 public:
     BackgroundQueue();
@@ -19,6 +18,9 @@ public:
 
     /// An exception that the work lets out is logged, and counts as its end.
     void add(std::function<void()> work, std::function<void()> done);
+
+    /// Waits for what is under way. What waits is not begun, and no end is told any more.
+    void clear();
 
     /// Nothing is under way, and all ends are told.
     bool isEmpty() const { return iUntold == 0; }
