@@ -35,17 +35,14 @@ namespace {
         return schemes.contains(url.scheme());
     }
 
-    // Nothing of a preview outlives it: what was read last, for one, belongs to another book.
-    QWebEngineProfile* previewProfile(QObject* parent)
-    {
-        return new QWebEngineProfile(parent);
-    }
-
 } // namespace
 
+// The profile keeps nothing on disk: what was read last, for one, belongs to another book.
 PreviewPage::PreviewPage(QObject* parent)
-    : QWebEnginePage(previewProfile(parent), parent)
+    : QWebEnginePage(new QWebEngineProfile, parent)
 {
+    // It may go only once there is no page any more.
+    connect(this, &QObject::destroyed, [profile = profile()] { delete profile; });
     QWebEngineSettings& behaviour = *settings();
     behaviour.setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, false);
     behaviour.setAttribute(QWebEngineSettings::PluginsEnabled, false);
