@@ -291,6 +291,14 @@
         <source>Import Settings</source>
         <translation>Einstellungen importieren</translation>
     </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, Zeile %2</translation>
+    </message>
+    <message>
+        <source>This template can&apos;t be used.</source>
+        <translation>Diese Vorlage ist nicht zu gebrauchen.</translation>
+    </message>
 </context>
 <context>
     <name>leafcast::MainWindow</name>

@@ -291,6 +291,14 @@
         <source>Import Settings</source>
         <translation>导入设置</translation>
     </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1，第 %2 行</translation>
+    </message>
+    <message>
+        <source>This template can&apos;t be used.</source>
+        <translation>无法使用此模板。</translation>
+    </message>
 </context>
 <context>
     <name>leafcast::MainWindow</name>

@@ -2,6 +2,7 @@
 // The commands of the main window.
 #include "app/AboutWindow.h"
 #include "app/ApplyItem.h"
+#include "app/AppName.h"
 #include "app/Leafcast_for_iPad_MacAppDelegate.h"
 #include "app/MainWindow.h"
 #include "base/ResourceFolder.h"
@@ -11,10 +12,12 @@
 #include "templates/ui/PropertyPanel.h"
 #include "templates/ui/SelectTemplateWindowDelegate.h"
 #include "widgets/FileOpener.h"
+#include "widgets/ProblemLabel.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
+#include <QMessageBox>
 
 using namespace Qt::StringLiterals;
 
@@ -84,6 +87,7 @@ void Leafcast_for_iPad_MacAppDelegate::importWindowDidEnd(int returnCode)
     setFlashOutline(sheet.flashOutline());
     if (!iFlashPageSource->sourceFile().isEmpty())
         iMemory.addRecentFile(iFlashPageSource->sourceFile());
+    iWindow->showImportNotice(sheet.notice());
     iWindow->properties().reloadData();
     applyChange();
 }
@@ -96,6 +100,7 @@ void Leafcast_for_iPad_MacAppDelegate::OnExportTmplSettings()
         = new QFileDialog(iWindow.get(), tr("Export Settings"), QString(), tr("Settings (*.txt)"));
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setAcceptMode(QFileDialog::AcceptSave);
+    panel->setDefaultSuffix(u"txt"_s); // so that the panel asks before it replaces that file
     connect(panel, &QFileDialog::fileSelected, this,
         &Leafcast_for_iPad_MacAppDelegate::exportTmplSettingsTo);
     panel->open();
@@ -162,9 +167,26 @@ void Leafcast_for_iPad_MacAppDelegate::selectTmplWindowDidEnd(int returnCode)
         return;
     const QString style = QFileInfo(picture).path();
     const QString name = QFileInfo(QFileInfo(style).path()).fileName();
+    // A broken one would take the place of the whole tree.
+    if (const auto outcome = FlashTemplate::open(name).outcome; !outcome.isLoaded())
+        return tellTemplateProblem(outcome);
     iFlashTmpl->changeTmplTo(name, style);
     iWindow->properties().reloadData();
     applyChange();
+}
+
+void Leafcast_for_iPad_MacAppDelegate::tellTemplateProblem(const TemplateLoadOutcome& outcome)
+{
+    const QString place = outcome.line > 0
+        ? tr("%1, line %2").arg(outcome.file, QString::number(outcome.line))
+        : outcome.file;
+    auto* alert = new QMessageBox(QMessageBox::Warning, APP_NAME,
+        tr("This template can't be used."), QMessageBox::Ok, iWindow.get());
+    alert->setObjectName(u"templateProblem"_s);
+    alert->setAttribute(Qt::WA_DeleteOnClose);
+    alert->setTextFormat(Qt::PlainText);
+    alert->setInformativeText(asSentence(place + u": "_s + outcome.reason));
+    alert->open();
 }
 
 void Leafcast_for_iPad_MacAppDelegate::OpenHelp()

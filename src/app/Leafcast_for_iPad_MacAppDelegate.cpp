@@ -127,6 +127,7 @@ void Leafcast_for_iPad_MacAppDelegate::applicationWillTerminate()
 {
     if (iWindow)
         iMemory.save(*iWindow, iWindow->splitter());
+    iPreview.stop(); // it would write into the folder that is removed
     iTask.stop();
     removeFlashPreviewFolder();
 }

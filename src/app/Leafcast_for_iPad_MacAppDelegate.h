@@ -90,6 +90,7 @@ private:
     void fillRecentMenu();
     void previewWritten(const QString& page);
     void showAddresses();
+    void tellTemplateProblem(const TemplateLoadOutcome& outcome);
 
     std::unique_ptr<MainWindow> iWindow;
     // Children of the window, each made when it is first needed.

@@ -6,6 +6,7 @@
 #include "app/Look.h"
 #include "app/PreviewPage.h"
 #include "templates/ui/PropertyPanel.h"
+#include "widgets/ProblemLabel.h"
 
 #include <QActionGroup>
 #include <QCloseEvent>
@@ -38,6 +39,7 @@ namespace {
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , iProperties(new PropertyPanel)
+    , iImportNotice(new ProblemLabel)
     , iSplitter(new QSplitter)
     , iApply(new ApplyItem(this))
 {
@@ -51,7 +53,9 @@ MainWindow::MainWindow(QWidget* parent)
     makeActions();
     makeMenus();
     makeToolBar();
-    statusBar();
+    iImportNotice->setObjectName(u"importNotice"_s);
+    statusBar()->addWidget(iImportNotice, 1);
+    showImportNotice({});
     setAcceptDrops(true);
 }
 
@@ -65,6 +69,11 @@ void MainWindow::showPreview(const QUrl& page)
 {
     iPreview->setCurrentWidget(iWebView);
     iPage->load(page);
+}
+
+void MainWindow::showImportNotice(const QString& text)
+{
+    iImportNotice->showProblem(text);
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

@@ -13,6 +13,7 @@ namespace leafcast {
 
 class ApplyItem;
 class PreviewPage;
+class ProblemLabel;
 class PropertyPanel;
 
 /// Arranges the property editor beside the preview, with menus and a toolbar. What the commands do
@@ -33,6 +34,9 @@ public:
     /// A sentence over the preview until a page is shown; empty while one is on its way.
     void showNotice(const QString& text);
     void showPreview(const QUrl& page);
+    /// What stays in the status bar about the book, without capital and full stop; empty for
+    /// nothing.
+    void showImportNotice(const QString& text);
 
     QAction* importPDF = nullptr;
     QAction* exportFlipBook = nullptr;
@@ -63,6 +67,7 @@ private:
     QWidget* makePreview();
 
     PropertyPanel* iProperties;
+    ProblemLabel* iImportNotice;
     QWebEngineView* iWebView = nullptr;
     PreviewPage* iPage = nullptr;
     QStackedWidget* iPreview = nullptr;
