@@ -6,6 +6,7 @@ import json
 import sys
 
 import contenders
+import desktop
 import documents
 import encoder
 import latency
@@ -84,6 +85,19 @@ def measure_preview(place, corpus, options):
         targets.preview(ours, peers)
 
 
+def measure_desktop(place, corpus, _options):
+    document = corpus.rewrite()
+    report.heading(f"Desktop application with a book of {document.pages} pages")
+    figures = desktop.measure_desktop(place, document)
+    print(f"  start to the sample book visible: {figures.start_seconds:.2f} s")
+    print(f"  longest silence of the window: {figures.import_silence:.0f} ms during the import,"
+          f" {figures.preview_silence:.0f} ms during the preview after it,"
+          f" {figures.publish_silence:.0f} ms during publishing")
+    print(f"  one change applied: book written after {figures.apply_written_seconds:.2f} s,"
+          f" seen after {figures.apply_seen_seconds:.2f} s")
+    return dataclasses.asdict(figures), targets.desktop(figures)
+
+
 ALL = {
     "documents": measure_documents,
     "memory": measure_memory,
@@ -91,4 +105,5 @@ ALL = {
     "latency": measure_latency,
     "encoder": measure_encoder,
     "preview": measure_preview,
+    "desktop": measure_desktop,
 }

@@ -50,6 +50,19 @@ def latency(version_seconds, first_page_seconds):
             Target("First page drawn of a long document", first_page_seconds * 1000, 150, "ms")]
 
 
+def desktop(figures):
+    def silence(when, milliseconds):
+        return Target(f"Desktop: longest silence of the window during {when}", milliseconds, 50, "ms")
+
+    note = f"seen after {figures.apply_seen_seconds:.2f} s"
+    return [Target("Desktop: start to the sample book visible", figures.start_seconds, 2, "s"),
+            silence("an import", figures.import_silence),
+            silence("the preview of a long book", figures.preview_silence),
+            silence("publishing", figures.publish_silence),
+            Target("Desktop: one change applied, before the web view loads the book",
+                   figures.apply_written_seconds, 0.5, "s", note=note)]
+
+
 def preview(ours, peers):
     """Loads of the preview server and of nginx with the same folder and clients."""
     return [Target("Preview server under load: pages per second against nginx",
