@@ -28,7 +28,8 @@ const ROWS = [
 const ROUNDING = 0.1;
 
 function verdict(value, budget) {
-  if (budget === undefined || value === undefined) return '';
+  if (budget === undefined) return '';
+  if (value === undefined) return 'NOT MET'; // what could not be measured is not good
   const met = typeof budget === 'object' ? value === budget.exactly : value <= budget + ROUNDING;
   return met ? 'met' : 'NOT MET';
 }

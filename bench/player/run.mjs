@@ -104,6 +104,7 @@ const folder = mkdtempSync(join(tmpdir(), 'bench-player-'));
 try {
   const { missed, results } = await run(folder);
   console.log(`\n${missed.length === 0 ? 'All budgets are met.' : `NOT MET:\n  ${missed.join('\n  ')}`}`);
+  process.exitCode = missed.length === 0 ? 0 : 1;
   mkdirSync(join(RESULTS, '..'), { recursive: true });
   writeFileSync(RESULTS, JSON.stringify({ load: loadavg()[0], missed, results }, null, 2));
 } finally {

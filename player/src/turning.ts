@@ -25,6 +25,7 @@ export class Turning {
   private readonly ticker = new Ticker((seconds, elapsed) => this.step(seconds, elapsed));
   private isChanged = false; // since the frame before
   private lastChange = 0;
+  private painting = 0; // seconds, of the frame before
   private shown = '';
 
   constructor(
@@ -118,14 +119,16 @@ export class Turning {
   }
 
   private step(seconds: number, elapsed: number): boolean {
-    this.governor.frame(elapsed);
+    this.governor.frame(elapsed, this.painting);
     const isHeld = this.flight.isMoving && this.flight.leaves.every((leaf) => leaf.held);
     // Frames go on for a while under a finger, so that it is seen whether they come late.
     if (isHeld && !this.isChanged) return performance.now() - this.lastChange < REST_MILLISECONDS;
     this.isChanged = false;
+    const begun = performance.now();
     this.advance(seconds);
     this.tellOfChange();
     this.events.frame(this.governor.quality);
+    this.painting = (performance.now() - begun) / 1000;
     if (this.flight.isMoving) return true;
     this.governor.rest();
     this.events.settled();
