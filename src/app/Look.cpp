@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/Look.h"
 
+#include "app/CalmStyle.h"
+
 #include <QApplication>
 
 namespace leafcast {
@@ -22,9 +24,9 @@ namespace {
 
     // Paper and ink with the green of the icon.
     constexpr Colors light = { 0xfff4f3ef, 0xffffffff, 0xfffaf9f6, 0xfffbfaf7, 0xff24231f,
-        0xff75736b, 0xffcfccc2, 0xff2f7d4f, 0xffffffff, 0xff23683f };
+        0xff6b6961, 0xffcfccc2, 0xff2f7d4f, 0xffffffff, 0xff23683f };
     constexpr Colors dark = { 0xff25262a, 0xff1c1d20, 0xff222327, 0xff303237, 0xffe9e8e4,
-        0xff92918c, 0xff45474d, 0xff3f9a65, 0xff0f1511, 0xff7fc79b };
+        0xffa2a19b, 0xff45474d, 0xff3f9a65, 0xff0f1511, 0xff7fc79b };
 
     QPalette paletteOf(const Colors& colors)
     {
@@ -71,7 +73,8 @@ QPalette darkPalette()
 void applyLook(Appearance appearance)
 {
     static const bool desktopIsDark = isDark(QApplication::palette());
-    QApplication::setStyle(QStringLiteral("fusion"));
+    if (!qobject_cast<CalmStyle*>(QApplication::style()))
+        QApplication::setStyle(new CalmStyle);
     const bool dark
         = appearance == Appearance::Dark || (appearance == Appearance::System && desktopIsDark);
     QApplication::setPalette(dark ? darkPalette() : lightPalette());
