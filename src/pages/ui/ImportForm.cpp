@@ -73,8 +73,8 @@ void ImportForm::makePageControls()
 void ImportForm::makePageRangeType()
 {
     pageRangeType = new QButtonGroup(this);
-    auto* all = new QRadioButton(tr("&All pages"), this);
-    auto* range = new QRadioButton(tr("&Pages:"), this);
+    auto* all = new QRadioButton(tr("&All"), this);
+    auto* range = new QRadioButton(tr("&Range:"), this);
     all->setObjectName(u"optAllPages"_s);
     range->setObjectName(u"optPageRange"_s);
     pageRangeType->addButton(all, allPages);
@@ -119,6 +119,7 @@ void ImportForm::layOut()
     grid->addWidget(lblInfo, firstOfRest + 2, 0, 1, -1);
     grid->addWidget(prgBar, firstOfRest + 3, 0, 1, -1);
     grid->setRowStretch(firstOfRest + 4, 1);
+    grid->setRowMinimumHeight(firstOfRest + 4, spacing);
     grid->addLayout(buttonRow(), firstOfRest + 5, 0, 1, -1);
 }
 
@@ -136,11 +137,12 @@ void ImportForm::addFileRows(QGridLayout& grid)
 void ImportForm::addPageRows(QGridLayout& grid)
 {
     const int row = grid.rowCount();
+    grid.addWidget(new QLabel(tr("Pages:"), this), row, 0, Qt::AlignRight | Qt::AlignVCenter);
     grid.addWidget(pageRangeType->button(allPages), row, fieldColumn, 1, -1);
     auto* typed = new QHBoxLayout;
     typed->addWidget(pageRangeType->button(typedRange));
     typed->addWidget(txtPageRange);
-    grid.addLayout(typed, row + 1, fieldColumn, 1, -1);
+    grid.addLayout(typed, row + 1, fieldColumn);
     grid.addWidget(lblPageRange, row + 2, fieldColumn, 1, -1);
     addLabel(grid, tr("&Quality:"), importQuality);
 }
@@ -159,7 +161,7 @@ QLabel* ImportForm::addLabel(QGridLayout& grid, const QString& text, QWidget* bu
     auto* label = new QLabel(text, this);
     label->setBuddy(buddy);
     const int row = grid.count() == 0 ? 0 : grid.rowCount();
-    grid.addWidget(label, row, 0, Qt::AlignRight);
+    grid.addWidget(label, row, 0, Qt::AlignRight | Qt::AlignVCenter);
     grid.addWidget(buddy, row, fieldColumn);
     return label;
 }

@@ -10,6 +10,7 @@
 #include "pages/ui/ImportForm.h"
 #include "widgets/ProblemLabel.h"
 #include "widgets/SheetField.h"
+#include "widgets/SheetFit.h"
 
 #include <QFileInfo>
 #include <QVBoxLayout>
@@ -46,6 +47,7 @@ ImportWindowDelegate::ImportWindowDelegate(QWidget* parent, AppSettings& setting
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->addWidget(iForm);
+    new SheetFit(*this);
     iTypingPause.setSingleShot(true);
     iTypingPause.setInterval(typingPauseMilliseconds);
     connectControls();

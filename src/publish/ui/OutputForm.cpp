@@ -18,9 +18,9 @@ namespace {
     constexpr int spacing = 8;
     constexpr int fieldWidth = 360;
 
-    QFormLayout* newRows(QWidget* parent)
+    QFormLayout* newRows()
     {
-        auto* rows = new QFormLayout(parent);
+        auto* rows = new QFormLayout;
         rows->setContentsMargins(0, 0, 0, 0);
         rows->setSpacing(spacing);
         rows->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -126,17 +126,17 @@ void OutputForm::layOut()
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(spacing);
-    auto* rows = newRows(nullptr);
+    auto* rows = newRows();
     auto* types = outputTypes();
     rows->addRow(labelFor(mOutputType->button(htmlFolder), tr("Publish &as:")), types);
     rows->addRow(labelFor(txtOutputFolder, tr("&Folder:")), folderRow());
     rows->addRow(tr("&Name:"), txtOutputName);
     rows->addRow(tr("&Title:"), txtTitle);
+    addMoreRows(*rows);
     column->addLayout(rows);
-    column->addWidget(btnMore);
-    column->addWidget(morePart());
     column->addWidget(lblInfo);
     column->addWidget(prgBar);
+    column->addSpacing(spacing);
     column->addStretch();
     column->addLayout(buttonRow());
 }
@@ -158,17 +158,18 @@ QBoxLayout* OutputForm::outputTypes()
     return column;
 }
 
-QWidget* OutputForm::morePart()
+void OutputForm::addMoreRows(QFormLayout& rows)
 {
-    auto* part = new QWidget(this);
-    auto* rows = newRows(part);
-    rows->addRow(tr("&Description:"), txtDescription);
-    rows->addRow(tr("&Keywords:"), txtKeywords);
-    part->hide();
-    connect(btnMore, &QToolButton::toggled, part, &QWidget::setVisible);
-    connect(btnMore, &QToolButton::toggled, this,
-        [this](bool open) { btnMore->setArrowType(open ? Qt::DownArrow : Qt::RightArrow); });
-    return part;
+    rows.addRow(QString(), btnMore);
+    rows.addRow(tr("&Description:"), txtDescription);
+    rows.addRow(tr("&Keywords:"), txtKeywords);
+    const auto show = [this, &rows](bool isOpen) {
+        rows.setRowVisible(txtDescription, isOpen);
+        rows.setRowVisible(txtKeywords, isOpen);
+        btnMore->setArrowType(isOpen ? Qt::DownArrow : Qt::RightArrow);
+    };
+    show(false);
+    connect(btnMore, &QToolButton::toggled, this, show);
 }
 
 QBoxLayout* OutputForm::buttonRow()

@@ -48,7 +48,7 @@ private:
     void layOut();
     QBoxLayout* folderRow();
     QBoxLayout* outputTypes();
-    QWidget* morePart();
+    void addMoreRows(QFormLayout& rows);
     QBoxLayout* buttonRow();
 };
 

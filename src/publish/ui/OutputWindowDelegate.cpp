@@ -6,8 +6,10 @@
 #include "publish/ui/OutputForm.h"
 #include "widgets/ProblemLabel.h"
 #include "widgets/SheetField.h"
+#include "widgets/SheetFit.h"
 
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QVBoxLayout>
 #include <utility>
@@ -26,6 +28,14 @@ namespace {
         return field.text().trimmed().isEmpty() ? std::nullopt : std::optional(field.text());
     }
 
+    /// So that a path has room; left alone, such a window is as wide as its question.
+    void widen(const QMessageBox& question)
+    {
+        constexpr int textWidth = 380;
+        for (auto* label : question.findChildren<QLabel*>(u"qt_msgbox_informativelabel"_s))
+            label->setMinimumWidth(textWidth);
+    }
+
 } // namespace
 
 OutputWindowDelegate::OutputWindowDelegate(QWidget* parent, AppSettings& settings)
@@ -37,6 +47,7 @@ OutputWindowDelegate::OutputWindowDelegate(QWidget* parent, AppSettings& setting
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->addWidget(iForm);
+    new SheetFit(*this);
     connectControls();
     awakeFromNib();
 }
@@ -177,6 +188,7 @@ void OutputWindowDelegate::askToReplace(
     question->setAttribute(Qt::WA_DeleteOnClose);
     question->setTextFormat(Qt::PlainText);
     question->setInformativeText(asSentence(problem));
+    widen(*question);
     const auto* agree = question->addButton(tr("Publish"), QMessageBox::DestructiveRole);
     question->setDefaultButton(QMessageBox::Cancel);
     connect(question, &QMessageBox::buttonClicked, this,
