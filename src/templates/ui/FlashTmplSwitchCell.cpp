@@ -23,9 +23,12 @@ namespace {
             cell.caption(), Qt::ElideRight, std::max(0, box.rect.width() - 24));
         box.state |= cell.isOn() ? QStyle::State_On : QStyle::State_Off;
         box.palette.setColor(QPalette::WindowText, box.palette.color(CellStyle::textRole(option)));
-        // Fusion draws the frame darker than the window: on a dark row it would not be seen.
-        if (CellStyle::isDark(box.palette))
-            box.palette.setColor(QPalette::Window, QColor(180, 180, 180));
+        // A box in the colour of the selection would not be seen on a selected row.
+        if (option.state & QStyle::State_Selected) {
+            const QColor row = box.palette.color(QPalette::Highlight);
+            box.palette.setColor(QPalette::Highlight, box.palette.color(QPalette::HighlightedText));
+            box.palette.setColor(QPalette::HighlightedText, row);
+        }
         return box;
     }
 

@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QTextBlock>
 #include <QTextEdit>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -18,7 +19,9 @@ namespace leafcast {
 
 namespace {
 
+    constexpr int margin = 12;
     constexpr int linesOfHelp = 5;
+    constexpr int lineHeightPercent = 128; // of text that is read, not scanned
 
     QTextEdit* makeText(QWidget* parent)
     {
@@ -31,8 +34,19 @@ namespace {
         text->document()->setDocumentMargin(0);
         text->viewport()->setAutoFillBackground(false);
         text->setPlaceholderText(PropertyHelp::tr("Select a setting to read what it does."));
-        text->setFixedHeight(text->fontMetrics().lineSpacing() * linesOfHelp);
+        text->setFixedHeight(
+            text->fontMetrics().lineSpacing() * linesOfHelp * lineHeightPercent / 100);
         return text;
+    }
+
+    void setReadableText(QTextEdit& edit, const QString& text)
+    {
+        edit.setPlainText(text);
+        QTextBlockFormat lines;
+        lines.setLineHeight(lineHeightPercent, QTextBlockFormat::ProportionalHeight);
+        QTextCursor all(edit.document());
+        all.select(QTextCursor::Document);
+        all.mergeBlockFormat(lines);
     }
 
     QLabel* makeProblem(QWidget* parent)
@@ -62,7 +76,9 @@ PropertyHelp::PropertyHelp(QAction& resetAction, QWidget* parent)
     , iProblem(makeProblem(this))
 {
     setObjectName(u"toolTipBox"_s);
+    setFlat(true);
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(margin, 0, margin, margin);
     layout->setSpacing(8);
     layout->addWidget(iToolTip);
     layout->addWidget(iProblem);
@@ -74,7 +90,7 @@ void PropertyHelp::showProperty(const FlashTemplateProperty& property)
 {
     setTitle(TemplateText::of(property.title()));
     if (const QString text = TemplateText::of(property.desc()); iToolTip->toPlainText() != text)
-        iToolTip->setPlainText(text);
+        setReadableText(*iToolTip, text);
     const QString problem = propertyProblem(property);
     QPalette palette;
     palette.setColor(QPalette::WindowText, ProblemMark::color());

@@ -17,11 +17,23 @@ namespace leafcast {
 
 namespace {
 
-    constexpr int rowHeight = 26;
+    constexpr int rowHeight = 28;
 
     bool isValueColumn(const QModelIndex& index)
     {
         return index.column() == FlashTemplateOutlineDelegate::ValueColumn;
+    }
+
+    /// As a heading: smaller than what it is over, and in capitals.
+    void showAsHeading(QStyleOptionViewItem& option)
+    {
+        option.font.setPointSizeF(QFontInfo(option.font).pointSizeF() * 0.86);
+        option.font.setWeight(QFont::DemiBold);
+        option.font.setCapitalization(QFont::AllUppercase);
+        option.font.setLetterSpacing(QFont::PercentageSpacing, 104);
+        option.fontMetrics = QFontMetrics(option.font);
+        option.palette.setColor(
+            QPalette::Text, option.palette.color(QPalette::Active, QPalette::PlaceholderText));
     }
 
     bool isEditKey(const QEvent& event)
@@ -54,6 +66,8 @@ void PropertyItemDelegate::initStyleOption(
     QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
+    if (FlashTemplateOutlineDelegate::propertyAt(index)->propertyType() == pt_composite)
+        showAsHeading(*option);
     if (!isValueColumn(index))
         return;
     // The row is drawn by the style, what stands in it by its cell.

@@ -23,7 +23,7 @@ namespace leafcast {
 
 namespace {
 
-    constexpr int margin = 8;
+    constexpr int margin = 12;
     constexpr int spacing = 8;
 
     /// None when the program was linked without the pictures: then texts stand in for them.
@@ -48,8 +48,8 @@ PropertyPanel::PropertyPanel(QWidget* parent)
     iHelp = new PropertyHelp(*iReset);
 
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(margin, margin, margin, margin);
-    layout->setSpacing(spacing);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
     layout->addWidget(makeFilterRow());
     layout->addWidget(makeTree(), 1);
     layout->addWidget(iHelp);
@@ -112,7 +112,7 @@ QWidget* PropertyPanel::makeFilterRow()
 {
     auto* row = new QWidget;
     auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(margin, margin, margin, spacing);
     layout->setSpacing(spacing);
     layout->addWidget(makeFilterBox(), 1);
 
@@ -120,6 +120,7 @@ QWidget* PropertyPanel::makeFilterRow()
     button->setObjectName(u"btnResetAll"_s);
     button->setDefaultAction(iResetAll);
     button->setFocusPolicy(Qt::StrongFocus);
+    button->setAutoRaise(true);
     layout->addWidget(button);
     return row;
 }
@@ -139,6 +140,7 @@ QWidget* PropertyPanel::makeTree()
     iEmptiness->setForegroundRole(QPalette::PlaceholderText);
 
     iPages = new QStackedWidget;
+    iPages->setContentsMargins(spacing, 0, spacing / 2, 0);
     iPages->addWidget(iOutlineView);
     iPages->addWidget(iEmptiness);
     return iPages;

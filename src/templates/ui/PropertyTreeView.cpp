@@ -13,7 +13,7 @@ namespace {
 
     constexpr int indentationPoints = 8;
     // Values need more room than titles: captions and paths are longer.
-    constexpr int keyColumnPercent = 46;
+    constexpr int keyColumnPercent = 43;
 
     bool isGroup(const QModelIndex& index)
     {
@@ -30,6 +30,8 @@ PropertyTreeView::PropertyTreeView(QWidget* parent)
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
     setHeaderHidden(true);
+    setFrameShape(NoFrame);
+    viewport()->setBackgroundRole(QPalette::Window); // the panel is quiet, the book is not
     setMouseTracking(true);
     setEditTriggers(EditKeyPressed | SelectedClicked | DoubleClicked | AnyKeyPressed);
 }
@@ -59,9 +61,11 @@ void PropertyTreeView::resizeEvent(QResizeEvent* event)
 void PropertyTreeView::drawRow(
     QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    if (isGroup(index))
-        painter->fillRect(option.rect, option.palette.alternateBase());
     QTreeView::drawRow(painter, option, index);
+    const bool isFirst = index.row() == 0 && !index.parent().isValid();
+    if (isGroup(index) && !isFirst)
+        painter->fillRect(
+            QRect(option.rect.topLeft(), QSize(option.rect.width(), 1)), option.palette.mid());
 }
 
 bool PropertyTreeView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)

@@ -47,7 +47,7 @@ SelectTemplateWindowDelegate::SelectTemplateWindowDelegate(QWidget* parent)
     grid->addWidget(gallery, 1, 1);
     grid->addWidget(makeButtons(), 2, 0, 1, 2);
     grid->setColumnStretch(1, 1);
-    resize(listWidth + 3 * (StyleGalleryModel::pictureSize.width() + cellGap.width()) + 70, 560);
+    resize(listWidth + 3 * (StyleGalleryModel::pictureSize.width() + cellGap.width()) + 70, 640);
     updateOK();
 }
 

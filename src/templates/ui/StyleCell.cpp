@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "templates/ui/StyleCell.h"
 
+#include <QListView>
 #include <QPainter>
 
 namespace leafcast {
@@ -9,6 +10,12 @@ namespace {
     constexpr int frame = 3;
     constexpr int gap = 6;
 } // namespace
+
+QSize StyleCell::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const auto* gallery = qobject_cast<const QListView*>(option.widget);
+    return gallery ? gallery->gridSize() : QStyledItemDelegate::sizeHint(option, index);
+}
 
 void StyleCell::paint(
     QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
