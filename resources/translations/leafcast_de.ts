@@ -194,14 +194,6 @@
         <translation>Le&amp;sezeichen als Inhaltsverzeichnis importieren</translation>
     </message>
     <message>
-        <source>&amp;All pages</source>
-        <translation>&amp;Alle Seiten</translation>
-    </message>
-    <message>
-        <source>&amp;Pages:</source>
-        <translation>S&amp;eiten:</translation>
-    </message>
-    <message>
         <source>Page range</source>
         <translation>Seitenbereich</translation>
     </message>
@@ -220,6 +212,18 @@
     <message>
         <source>&amp;Quality:</source>
         <translation>&amp;Qualität:</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Alle</translation>
+    </message>
+    <message>
+        <source>&amp;Range:</source>
+        <translation>Be&amp;reich:</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Seiten:</translation>
     </message>
 </context>
 <context>
@@ -298,6 +302,10 @@
     <message>
         <source>This template can&apos;t be used.</source>
         <translation>Diese Vorlage ist nicht zu gebrauchen.</translation>
+    </message>
+    <message>
+        <source>Pages: %1   Template: %2   Style: %3</source>
+        <translation>Seiten: %1   Vorlage: %2   Stil: %3</translation>
     </message>
 </context>
 <context>

@@ -194,14 +194,6 @@
         <translation>将书签导入为目录(&amp;K)</translation>
     </message>
     <message>
-        <source>&amp;All pages</source>
-        <translation>所有页面(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;Pages:</source>
-        <translation>页面(&amp;P)：</translation>
-    </message>
-    <message>
         <source>Page range</source>
         <translation>页面范围</translation>
     </message>
@@ -220,6 +212,18 @@
     <message>
         <source>&amp;Quality:</source>
         <translation>质量(&amp;Q)：</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>全部(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Range:</source>
+        <translation>范围(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>页面：</translation>
     </message>
 </context>
 <context>
@@ -298,6 +302,10 @@
     <message>
         <source>This template can&apos;t be used.</source>
         <translation>无法使用此模板。</translation>
+    </message>
+    <message>
+        <source>Pages: %1   Template: %2   Style: %3</source>
+        <translation>页数：%1   模板：%2   样式：%3</translation>
     </message>
 </context>
 <context>

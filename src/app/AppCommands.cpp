@@ -5,6 +5,7 @@
 #include "app/AppName.h"
 #include "app/Leafcast_for_iPad_MacAppDelegate.h"
 #include "app/MainWindow.h"
+#include "app/PreviewPage.h"
 #include "base/ResourceFolder.h"
 #include "pages/ui/ImportWindowDelegate.h"
 #include "publish/ui/OutputWindowDelegate.h"
@@ -88,6 +89,7 @@ void Leafcast_for_iPad_MacAppDelegate::importWindowDidEnd(int returnCode)
     if (!iFlashPageSource->sourceFile().isEmpty())
         iMemory.addRecentFile(iFlashPageSource->sourceFile());
     iWindow->showImportNotice(sheet.notice());
+    iWindow->previewPage().forgetPlace();
     iWindow->properties().reloadData();
     applyChange();
 }
@@ -156,7 +158,7 @@ void Leafcast_for_iPad_MacAppDelegate::onSelectTemplate()
         connect(iSelecteTmplWindow, &QDialog::finished, this,
             &Leafcast_for_iPad_MacAppDelegate::selectTmplWindowDidEnd);
     }
-    iSelecteTmplWindow->prepairToTmpl(iFlashTmpl->tmplName());
+    iSelecteTmplWindow->prepairToTmpl(iFlashTmpl->tmplName(), styleShown());
     iSelecteTmplWindow->open();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/DroppedFiles.h"
 
+#include "pages/ImageFiles.h"
+
 #include <QFileInfo>
 #include <QMimeData>
 #include <QUrl>
@@ -9,13 +11,21 @@ using namespace Qt::StringLiterals;
 
 namespace leafcast {
 
+namespace {
+
+    bool isUsable(const QFileInfo& file)
+    {
+        return file.isDir() || file.suffix().compare(u"pdf"_s, Qt::CaseInsensitive) == 0
+            || ImageFiles::isImage(file.filePath());
+    }
+
+} // namespace
+
 QStringList droppedFiles(const QMimeData& data)
 {
-    static const QStringList types = { u"pdf"_s, u"jpg"_s, u"jpeg"_s, u"png"_s };
     QStringList files;
     for (const QUrl& url : data.urls())
-        if (types.contains(QFileInfo(url.toLocalFile()).suffix().toLower())
-            || QFileInfo(url.toLocalFile()).isDir())
+        if (url.isLocalFile() && isUsable(QFileInfo(url.toLocalFile())))
             files.append(url.toLocalFile());
     return files;
 }

@@ -31,7 +31,13 @@ namespace leafcast {
 
 namespace {
     constexpr auto logger = "Leafcast_for_iPad_MacAppDelegate";
-}
+
+    void fillTheScreen(QWidget& window)
+    {
+        window.setGeometry(QGuiApplication::primaryScreen()->availableGeometry());
+        window.setWindowState(Qt::WindowMaximized); // so that its title is on the screen too
+    }
+} // namespace
 
 Leafcast_for_iPad_MacAppDelegate::Leafcast_for_iPad_MacAppDelegate(QObject* parent)
     : QObject(parent)
@@ -79,7 +85,7 @@ void Leafcast_for_iPad_MacAppDelegate::applicationDidFinishLaunching()
 void Leafcast_for_iPad_MacAppDelegate::placeWindow()
 {
     if (!iMemory.restore(*iWindow, iWindow->splitter()))
-        iWindow->setGeometry(QGuiApplication::primaryScreen()->availableGeometry());
+        fillTheScreen(*iWindow);
     iWindow->show();
 }
 
@@ -150,10 +156,19 @@ void Leafcast_for_iPad_MacAppDelegate::previewWritten(const QString& page)
 {
     iWindow->previewPage().setBookFolder(QDir::cleanPath(iFlashPreviewFolder));
     iWindow->showPreview(QUrl::fromLocalFile(page));
+    iWindow->showSummary(tr("Pages: %1   Template: %2   Style: %3")
+                             .arg(QString::number(iFlashPageSource->normalPages().size()),
+                                 iFlashTmpl->tmplName(), styleShown()));
     Q_EMIT previewShown();
     // The server lies in the book, so that it can't run before the first one is written.
     if (!iTask.isRunning() && iTask.failure().isEmpty())
         RunServer();
+}
+
+QString Leafcast_for_iPad_MacAppDelegate::styleShown() const
+{
+    return iFlashTmpl->styleName().isEmpty() ? iFlashTmpl->defaultSytleName()
+                                             : iFlashTmpl->styleName();
 }
 
 void Leafcast_for_iPad_MacAppDelegate::updateTmplPropertyTip()

@@ -91,6 +91,7 @@ private:
     void previewWritten(const QString& page);
     void showAddresses();
     void tellTemplateProblem(const TemplateLoadOutcome& outcome);
+    QString styleShown() const;
 
     std::unique_ptr<MainWindow> iWindow;
     // Children of the window, each made when it is first needed.

@@ -25,7 +25,9 @@ namespace leafcast {
 namespace {
 
     constexpr int smallestPanel = 280;
+    constexpr int usualPanel = 352;
     constexpr int iconPixels = 20;
+    constexpr int summaryMargin = 12;
 
     QAction* separator(QObject* parent)
     {
@@ -40,6 +42,7 @@ MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , iProperties(new PropertyPanel)
     , iImportNotice(new ProblemLabel)
+    , iSummary(new QLabel)
     , iSplitter(new QSplitter)
     , iApply(new ApplyItem(this))
 {
@@ -48,14 +51,13 @@ MainWindow::MainWindow(QWidget* parent)
     iSplitter->addWidget(iProperties);
     iSplitter->addWidget(makePreview());
     iSplitter->setStretchFactor(1, 1);
+    iSplitter->setSizes({ usualPanel, 3 * usualPanel });
     iSplitter->setChildrenCollapsible(false);
     setCentralWidget(iSplitter);
     makeActions();
     makeMenus();
     makeToolBar();
-    iImportNotice->setObjectName(u"importNotice"_s);
-    statusBar()->addWidget(iImportNotice, 1);
-    showImportNotice({});
+    makeStatusBar();
     setAcceptDrops(true);
 }
 
@@ -67,6 +69,7 @@ void MainWindow::showNotice(const QString& text)
 
 void MainWindow::showPreview(const QUrl& page)
 {
+    iPage->setBackgroundColor(palette().color(QPalette::Window)); // until the book is drawn
     iPreview->setCurrentWidget(iWebView);
     iPage->load(page);
 }
@@ -190,8 +193,25 @@ void MainWindow::makeToolBar()
     bar->setMovable(false);
     bar->setIconSize({ iconPixels, iconPixels });
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    bar->addActions(
-        { importPDF, selectTemplate, iApply, separator(bar), previewWindow, exportFlipBook });
+    bar->setContextMenuPolicy(Qt::PreventContextMenu); // which would offer to hide it for good
+    // What makes the book begins the line, what hands it on ends it.
+    bar->addActions({ importPDF, selectTemplate, iApply });
+    auto* gap = new QWidget;
+    gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar->addWidget(gap);
+    bar->addActions({ previewWindow, exportFlipBook });
+}
+
+void MainWindow::makeStatusBar()
+{
+    iImportNotice->setObjectName(u"importNotice"_s);
+    statusBar()->addWidget(iImportNotice, 1);
+    showImportNotice({});
+    iSummary->setObjectName(u"summary"_s);
+    iSummary->setForegroundRole(QPalette::PlaceholderText);
+    iSummary->setContentsMargins(0, 0, summaryMargin, 0);
+    statusBar()->addPermanentWidget(iSummary);
+    statusBar()->setSizeGripEnabled(false);
 }
 
 } // namespace leafcast

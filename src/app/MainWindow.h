@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QLabel>
 #include <QMainWindow>
 
 class QActionGroup;
-class QLabel;
 class QSplitter;
 class QStackedWidget;
 class QWebEngineView;
@@ -37,6 +37,8 @@ public:
     /// What stays in the status bar about the book, without capital and full stop; empty for
     /// nothing.
     void showImportNotice(const QString& text);
+    /// What the preview shows, in a few words.
+    void showSummary(const QString& text) { iSummary->setText(text); }
 
     QAction* importPDF = nullptr;
     QAction* exportFlipBook = nullptr;
@@ -64,6 +66,7 @@ private:
     void makeMenus();
     void makeAppearanceMenu(QMenu& view);
     void makeToolBar();
+    void makeStatusBar();
     QWidget* makePreview();
 
     PropertyPanel* iProperties;
@@ -72,6 +75,7 @@ private:
     PreviewPage* iPage = nullptr;
     QStackedWidget* iPreview = nullptr;
     QLabel* iNotice = nullptr;
+    QLabel* iSummary;
     QSplitter* iSplitter;
     ApplyItem* iApply;
     QMenu* iRecent = nullptr;

@@ -49,6 +49,11 @@ PreviewPage::PreviewPage(QObject* parent)
     behaviour.setAttribute(QWebEngineSettings::FullScreenSupportEnabled, false);
 }
 
+void PreviewPage::forgetPlace()
+{
+    runJavaScript(u"localStorage.clear()"_s);
+}
+
 bool PreviewPage::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame)
 {
     Q_UNUSED(type)

@@ -15,6 +15,8 @@ public:
 
     /// The only folder that is shown from.
     void setBookFolder(const QString& folder) { iBookFolder = folder; }
+    /// The next book opens at its beginning, and not where this one lies open.
+    void forgetPlace();
 
 protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override;
