@@ -2,7 +2,7 @@
 # The front door. Each target sets up what it needs first; a second run finds it there.
 SHELL := /bin/bash
 .DEFAULT_GOAL := help
-.PHONY: help demo app test asan bench bench-player samples shots golden lint format install package clean
+.PHONY: help demo app test asan bench bench-player samples shots screenshots guide golden lint format install package clean
 
 DEMO_BOOK := build/demo-book
 PREFIX ?= /usr/local
@@ -58,6 +58,16 @@ shots: ## Take the pictures of the styles from a real book
 	@tools/setup samples
 	@tools/build headless
 	@LEAFCAST="$(CURDIR)/build/headless/bin/leafcast" node tools/make-shots.mjs
+
+screenshots: ## Photograph every window of the application, into build/screenshots
+	@tools/setup screenshots
+	@tools/build release
+	@cmake --build --preset release --target leafcast-screenshots
+	@tools/screenshots/take release
+
+guide: screenshots ## Print the guide and its pictures anew
+	@tools/screenshots/pick
+	@node tools/make-guide.mjs
 
 golden: ## Draw the golden pictures of the turning leaf anew; look at them before a commit
 	@tools/setup test
