@@ -118,7 +118,7 @@ void Stage::photograph(const QString& name)
     save(seen, u"%1-%2.png"_s.arg(++iCount, 2, 10, QChar(u'0')).arg(name));
     if (const QWidget* sheet = QApplication::activeModalWidget()) {
         const qreal ratio = sheet->devicePixelRatioF();
-        const QRect frame = sheet->frameGeometry();
+        const QRect frame = sheet->frameGeometry().adjusted(1, 1, -1, -1);
         save(seen.copy(QRect(frame.topLeft() * ratio, frame.size() * ratio)),
             u"sheets/%1.png"_s.arg(name));
     }

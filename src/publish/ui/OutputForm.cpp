@@ -127,8 +127,9 @@ void OutputForm::layOut()
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(spacing);
     auto* rows = newRows();
-    auto* types = outputTypes();
-    rows->addRow(labelFor(mOutputType->button(htmlFolder), tr("Publish &as:")), types);
+    auto* folder = mOutputType->button(htmlFolder);
+    rows->addRow(labelFor(folder, tr("Publish &as:")), folder);
+    rows->addRow(QString(), mOutputType->button(desktopPackage));
     rows->addRow(labelFor(txtOutputFolder, tr("&Folder:")), folderRow());
     rows->addRow(tr("&Name:"), txtOutputName);
     rows->addRow(tr("&Title:"), txtTitle);
@@ -148,14 +149,6 @@ QBoxLayout* OutputForm::folderRow()
     row->addWidget(btnSelectFolder);
     row->addWidget(btnOpenFolder);
     return row;
-}
-
-QBoxLayout* OutputForm::outputTypes()
-{
-    auto* column = new QVBoxLayout;
-    column->addWidget(mOutputType->button(htmlFolder));
-    column->addWidget(mOutputType->button(desktopPackage));
-    return column;
 }
 
 void OutputForm::addMoreRows(QFormLayout& rows)

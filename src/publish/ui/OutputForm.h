@@ -47,7 +47,6 @@ private:
     void nameControls();
     void layOut();
     QBoxLayout* folderRow();
-    QBoxLayout* outputTypes();
     void addMoreRows(QFormLayout& rows);
     QBoxLayout* buttonRow();
 };

@@ -57,6 +57,7 @@ HowtoPreveiwWindowDelegate::HowtoPreveiwWindowDelegate(QWidget* parent)
     iBtnOK = buttons->button(QDialogButtonBox::Ok);
     iBtnOK->setObjectName(u"btnOK"_s);
     connect(buttons, &QDialogButtonBox::accepted, this, &HowtoPreveiwWindowDelegate::OnOK);
+    column->addSpacing(spacing);
     column->addWidget(buttons);
     setMinimumWidth(420);
     showAddresses({});
