@@ -36,9 +36,10 @@ namespace {
     ArgumentDescription describeArgument(const CLI::Option& option)
     {
         const QString name = QString::fromStdString(option.get_name(true));
-        const QString usage = name + QString::fromStdString(option.get_option_text());
-        return { name, option.get_required() ? usage : u'[' + usage + u']',
-            QString::fromStdString(option.get_description()), isRepeatable(option) };
+        const bool repeatable = isRepeatable(option);
+        const QString ownText = QString::fromStdString(option.get_option_text());
+        return { name, name + (ownText.isEmpty() && repeatable ? u"..."_s : ownText),
+            QString::fromStdString(option.get_description()), option.get_required(), repeatable };
     }
 
     void addOptions(const CLI::App& parser, CommandDescription& command)

@@ -18,8 +18,9 @@ struct OptionDescription {
 
 struct ArgumentDescription {
     QString name;
-    QString usage; // as the synopsis has it
+    QString usage; // such as "INPUT... OUT_FOLDER"
     QString text;
+    bool required = false;
     bool repeatable = false;
 };
 

@@ -44,7 +44,8 @@ namespace {
     {
         QString line = bold(command.line) + u" ["_s + italic(u"OPTION"_s) + u"]..."_s;
         for (const ArgumentDescription& argument : command.arguments)
-            line += u' ' + italic(argument.usage);
+            line += argument.required ? u' ' + italic(argument.usage)
+                                      : u" ["_s + italic(argument.usage) + u']';
         return line + u'\n';
     }
 
