@@ -142,8 +142,12 @@ void Leafcast_for_iPad_MacAppDelegate::importTmplSettingsFrom(const QString& pat
 
 void Leafcast_for_iPad_MacAppDelegate::OnExportFlipBook()
 {
-    if (!iOuputWindow)
+    if (!iOuputWindow) {
         iOuputWindow = new OutputWindowDelegate(iWindow.get());
+        // A book that has been replaced since would stay with the sheet until it is opened again.
+        connect(iOuputWindow, &QDialog::finished, this,
+            [this] { iOuputWindow->setFlashPageSource(nullptr); });
+    }
     iOuputWindow->setFlashTmpl(iFlashTmpl);
     iOuputWindow->setFlashPageSource(iFlashPageSource);
     iOuputWindow->setFlashOutline(iFlashOutline);

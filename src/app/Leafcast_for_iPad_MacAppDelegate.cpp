@@ -24,6 +24,7 @@
 #include <QScreen>
 #include <QSplitter>
 #include <QUrl>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -178,7 +179,7 @@ void Leafcast_for_iPad_MacAppDelegate::updateTmplPropertyTip()
 
 void Leafcast_for_iPad_MacAppDelegate::setFlashPageSource(std::shared_ptr<FlashPageSource> source)
 {
-    iFlashPageSource = std::move(source);
+    iFormerSources.letGo(std::exchange(iFlashPageSource, std::move(source)));
 }
 
 void Leafcast_for_iPad_MacAppDelegate::setFlashPagesAnnotations(

@@ -4,6 +4,7 @@
 #include "app/PreviewBook.h"
 #include "app/PreviewServer.h"
 #include "app/WindowMemory.h"
+#include "base/BackgroundQueue.h"
 #include "base/NotificationCenter.h"
 #include "links/FlashOutline.h"
 #include "links/FlashPagesAnnotations.h"
@@ -105,6 +106,7 @@ private:
     std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotations; // none until a PDF is imported
     std::shared_ptr<FlashOutline> iFlashOutline; // likewise
     QString iFlashPreviewFolder = QStringLiteral(""); // until it is first made
+    BackgroundQueue iFormerSources; // on their way out
     PreviewBook iPreview;
     PreviewServer iTask;
     WindowMemory iMemory;

@@ -6,6 +6,8 @@
 #include "publish/FlashBookOutput.h"
 #include "publish/HTMLConfigInfo.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace leafcast {
@@ -66,7 +68,7 @@ void PreviewBook::write(const Parts& parts, const QString& folder)
         return;
     }
     iCurrent->stop();
-    iNext = std::move(work);
+    iQueue.letGo(std::exchange(iNext, std::move(work)));
 }
 
 void PreviewBook::start(std::shared_ptr<Work> work)
@@ -77,11 +79,13 @@ void PreviewBook::start(std::shared_ptr<Work> work)
 
 void PreviewBook::ended()
 {
-    const std::shared_ptr<Work> last = std::move(iCurrent);
+    std::shared_ptr<Work> last = std::move(iCurrent);
+    const QString page = last->isWritten() ? last->page() : QString();
+    iQueue.letGo(std::move(last));
     if (iNext)
         start(std::move(iNext));
-    else if (last->isWritten())
-        Q_EMIT written(last->page());
+    else if (!page.isEmpty())
+        Q_EMIT written(page);
 }
 
 } // namespace leafcast

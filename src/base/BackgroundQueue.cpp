@@ -30,6 +30,11 @@ BackgroundQueue::~BackgroundQueue()
     clear();
 }
 
+void BackgroundQueue::letGo(std::shared_ptr<const void> object)
+{
+    iThread.start([object = std::move(object)]() mutable { object.reset(); });
+}
+
 void BackgroundQueue::clear()
 {
     iThread.clear();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <QObject>
 #include <QThreadPool>
 
@@ -18,6 +19,10 @@ public:
 
     /// An exception that the work lets out is logged, and counts as its end.
     void add(std::function<void()> work, std::function<void()> done);
+
+    /// Lets go of an object on the queue's thread, which takes long when its last owner has files
+    /// to remove or a program to end.
+    void letGo(std::shared_ptr<const void> object);
 
     /// Waits for what is under way. What waits is not begun, and no end is told any more.
     void clear();

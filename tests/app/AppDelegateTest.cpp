@@ -165,6 +165,18 @@ TEST_F(AppDelegateTest, TakesOverWhatWasImported)
     EXPECT_EQ(recent->actions().first()->text(), home.path(u"new.pdf"_s));
 }
 
+TEST_F(AppDelegateTest, RemovesThePicturesOfTheFormerBook)
+{
+    start();
+    import(addPDF(u"first.pdf"_s, 2));
+    delegate.OnExportFlipBook();
+    clickInSheet(u"btnCancel"_s);
+    const QString picture = delegate.flashPageSource()->normalPages().front()->pageFilePath();
+    ASSERT_TRUE(FileSteps::exists(picture));
+    import(addPDF(u"second.pdf"_s, 1));
+    waitFor([&] { return !FileSteps::exists(picture); });
+}
+
 TEST_F(AppDelegateTest, KeepsItsBookWhenTheImportIsCancelled)
 {
     start();

@@ -191,6 +191,7 @@ void ImportWindowDelegate::startImport()
         iImportPDF->cancel();
     const QString range = pageRange();
     LOG_DEBUG("ImportWindowDelegate", u"page range is:%1"_s.arg(range));
+    iQueue.letGo(std::move(iImportPDF));
     iImportPDF = std::make_shared<ImportPDFOperation>(iForm->txtImportFile->text(), range,
         importDPI, qualityOfLevel(iSettings.importQualityLevel()),
         PDFImportOptions{ .password = iForm->txtPassword->text() });
