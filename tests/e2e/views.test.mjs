@@ -130,11 +130,12 @@ describe('slides', () => {
 
   it('follow the finger, and fall to the side that it means', async () => {
     const { page, fingers } = await openWithFingers(quick, { hash: '#page/4' });
-    const shifts = () => page.locator('.side:not([hidden])').evaluateAll((sides) => sides.map((side) => Math.round(new DOMMatrix(side.style.transform).e)));
     await fingers.down([600, 500]);
     await fingers.along([[600, 500]], [[400, 510]]);
-    await page.waitForFunction(() => document.querySelectorAll('.side:not([hidden])').length === 2);
-    assert.deepEqual((await shifts()).sort((one, other) => one - other), [-200, 620]);
+    await page.waitForFunction(() => {
+      const shifts = [...document.querySelectorAll('.side:not([hidden])')].map((side) => Math.round(new DOMMatrix(side.style.transform).e));
+      return shifts.sort((one, other) => one - other).join(' ') === '-200 620';
+    });
     await fingers.lose();
     assert.deepEqual(await openPages(page), [4]);
     assert.deepEqual(await turnWith(page, () => fingers.stroke([600, 500], [100, 500])), [5]);
