@@ -139,7 +139,7 @@
     </message>
     <message>
         <source>&amp;Images…</source>
-        <translation>&amp;Bilder …</translation>
+        <translation>B&amp;ilder …</translation>
     </message>
     <message>
         <source>Make the book from picture files instead</source>
@@ -219,7 +219,7 @@
     </message>
     <message>
         <source>&amp;Range:</source>
-        <translation>Be&amp;reich:</translation>
+        <translation>&amp;Bereich:</translation>
     </message>
     <message>
         <source>Pages:</source>
@@ -301,7 +301,7 @@
     </message>
     <message>
         <source>This template can&apos;t be used.</source>
-        <translation>Diese Vorlage ist nicht zu gebrauchen.</translation>
+        <translation>Diese Vorlage ist nicht verwendbar.</translation>
     </message>
     <message>
         <source>Pages: %1   Template: %2   Style: %3</source>
