@@ -35,8 +35,10 @@ namespace {
 
     void fillTheScreen(QWidget& window)
     {
-        window.setGeometry(QGuiApplication::primaryScreen()->availableGeometry());
-        window.setWindowState(Qt::WindowMaximized); // so that its title is on the screen too
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        window.move(screen.topLeft()); // with its frame
+        window.resize(screen.size());
+        window.setWindowState(Qt::WindowMaximized); // so that all of it is on the screen
     }
 } // namespace
 

@@ -79,6 +79,17 @@ namespace {
             QDir(kept.filePath()).removeRecursively();
     }
 
+    void photographMenu(Stage& stage, const QAction& title)
+    {
+        QMenu& menu = *title.menu();
+        const QMenuBar& bar = *stage.window().menuBar();
+        const QRect place = bar.actionGeometry(const_cast<QAction*>(&title));
+        menu.popup(bar.mapToGlobal(place.bottomLeft()));
+        menu.setActiveAction(menu.actions().constFirst());
+        stage.photograph(u"menu-"_s + QString(title.text()).remove(u'&').toLower());
+        menu.close();
+    }
+
 } // namespace
 
 void playStart(Stage& stage)
@@ -86,6 +97,9 @@ void playStart(Stage& stage)
     stage.photograph(u"start"_s);
     select(stage, { u"Background"_s, u"Colour"_s });
     stage.photograph(u"setting-selected"_s);
+    stage.control<QAction>(u"actionChoose"_s, stage.window()).trigger();
+    stage.photograph(u"colour"_s);
+    closeSheet(stage);
     change(stage, { u"Background"_s, u"Colour"_s }, u"0x2f4a43"_s);
     change(stage, { u"Page edges"_s }, false);
     stage.photograph(u"changes-pending"_s);
@@ -110,6 +124,8 @@ void playImport(Stage& stage, const Material& material)
         = [&stage] { return stage.control<QLabel>(u"lblInfo"_s, stage.sheet()).text(); };
     stage.window().importPDF->trigger();
     stage.photograph(u"import-empty"_s);
+    stage.control<QPushButton>(u"btnBrowseImages"_s, stage.sheet()).setFocus(Qt::TabFocusReason);
+    stage.photograph(u"import-by-keyboard"_s);
     choose(material.locked);
     stage.waitFor(u"the question for the password"_s,
         [&] { return stage.control<QLineEdit>(u"txtPassword"_s, stage.sheet()).isVisible(); });
@@ -198,6 +214,8 @@ void playOthers(Stage& stage)
         [&] { return !stage.control<QLabel>(u"lblwebsite"_s, stage.sheet()).text().isEmpty(); });
     stage.photograph(u"tablet"_s);
     closeSheet(stage);
+    for (const QAction* title : stage.window().menuBar()->actions().mid(0, 2))
+        photographMenu(stage, *title);
     stage.window().openAbout->trigger();
     stage.photograph(u"about"_s);
     closeSheet(stage);

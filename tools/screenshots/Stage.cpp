@@ -43,7 +43,25 @@ Stage::Stage(const QDir& pictures, Appearance appearance)
             choice->trigger();
     if (!QTest::qWaitForWindowActive(&window(), patienceMilliseconds))
         fail(u"the window does not become active"_s);
+    fillTheScreen();
     waitForBook(1);
+}
+
+// Not every window manager heeds what a window wants to be from its first moment.
+void Stage::fillTheScreen()
+{
+    window().showNormal();
+    window().showMaximized();
+    waitForFrame(window());
+}
+
+void Stage::waitForFrame(const QWidget& widget) const
+{
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    waitFor(u"the frame of "_s + widget.windowTitle(), [&] {
+        const QRect frame = widget.frameGeometry();
+        return screen.contains(frame) && frame.top() < widget.geometry().top();
+    });
 }
 
 Stage::~Stage()
@@ -105,6 +123,9 @@ void Stage::waitForNoSheet() const
 
 void Stage::photograph(const QString& name)
 {
+    QWidget* sheet = QApplication::activeModalWidget();
+    if (!QTest::qWaitForWindowActive(sheet ? sheet : &window(), patienceMilliseconds))
+        fail(u"no active window for "_s + name);
     QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
     // What blinks shows a picture that was there before.
     std::vector<QImage> former;
@@ -116,8 +137,9 @@ void Stage::photograph(const QString& name)
         return std::ranges::find(former, seen) != former.end();
     });
     save(seen, u"%1-%2.png"_s.arg(++iCount, 2, 10, QChar(u'0')).arg(name));
-    if (const QWidget* sheet = QApplication::activeModalWidget()) {
+    if (sheet) {
         const qreal ratio = sheet->devicePixelRatioF();
+        waitForFrame(*sheet);
         const QRect frame = sheet->frameGeometry().adjusted(1, 1, -1, -1);
         save(seen.copy(QRect(frame.topLeft() * ratio, frame.size() * ratio)),
             u"sheets/%1.png"_s.arg(name));

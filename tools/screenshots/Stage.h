@@ -50,6 +50,8 @@ public:
     [[noreturn]] static void fail(const QString& why);
 
 private:
+    void fillTheScreen();
+    void waitForFrame(const QWidget& widget) const;
     QVariant inBook(const QString& script) const;
     void save(const QImage& picture, const QString& file) const;
 
