@@ -57,7 +57,8 @@ void Stage::fillTheScreen()
 
 void Stage::waitForFrame(const QWidget& widget) const
 {
-    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    // Half a point is rounded to one where points have more pixels.
+    const QRect screen = QGuiApplication::primaryScreen()->geometry().adjusted(-1, -1, 1, 1);
     waitFor(u"the frame of "_s + widget.windowTitle(), [&] {
         const QRect frame = widget.frameGeometry();
         return screen.contains(frame) && frame.top() < widget.geometry().top();
