@@ -5,8 +5,8 @@
 
 namespace leafcast {
 
-/// What people read that comes from below the windows: Sentences::tr("…") is in the language that the application
-/// has loaded, and English on the command line, which loads none.
+/// What people read that comes from below the windows: Sentences::tr("…") is in the language that
+/// the application has loaded, and English on the command line, which loads none.
 class Sentences {
     Q_DECLARE_TR_FUNCTIONS(leafcast::Sentences)
 };
