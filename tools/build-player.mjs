@@ -25,6 +25,8 @@ const { build } = await import('esbuild').catch(() => {
   console.error('The player cannot be bundled without esbuild: run "tools/setup build" first.');
   process.exit(1);
 });
+const { privateNames } = await import('./privateNames.mjs');
+const mangleProps = new RegExp(`^(?:${privateNames(join(PLAYER, 'tsconfig.json')).join('|')})$`);
 const [folder] = process.argv.slice(2);
 if (!folder) throw new Error('usage: node tools/build-player.mjs FOLDER');
 mkdirSync(folder, { recursive: true });
@@ -34,7 +36,7 @@ for (const { file, entry, mostGzipped, charset } of PARTS) {
   const banner = { [file.endsWith('.css') ? 'css' : 'js']: LICENCE };
   await build({
     entryPoints: [join(PLAYER, entry)], outfile, banner, bundle: true, minify: true, format: 'iife', target: 'es2020',
-    charset, legalComments: 'none', tsconfigRaw, logLevel: 'warning',
+    charset, mangleProps, legalComments: 'none', tsconfigRaw, logLevel: 'warning',
   });
   const bytes = readFileSync(outfile);
   const gzipped = gzipSync(bytes, { level: 9 }).length;
