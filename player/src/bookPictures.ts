@@ -40,7 +40,9 @@ export class BookPictures {
   /** Width over height; that of most pages where it is not known. */
   shapeOf(place: number): number {
     const { width, height } = this.book.pages[place - 1] ?? { width: 0, height: 0 };
-    return width > 0 && height > 0 ? width / height : this.book.shape;
+    if (!(width > 0 && height > 0)) return this.book.shape;
+    // Without a page list the size is that of the first page.
+    return (!this.book.hasPageList && this.files.shapeOf(place)) || width / height;
   }
 
   hasPicture(place: number): boolean {
@@ -67,6 +69,12 @@ export class BookPictures {
       return { place, size, seen: seen(place) };
     };
     this.pictures.want(wanted.map(request));
+  }
+
+  /** Gives everything up that is held or under way. */
+  close(): void {
+    this.pictures.close();
+    this.files.close();
   }
 
   paint(canvas: HTMLCanvasElement, place: number, box: Box): void {

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 import { type Book, isWide } from './book.ts';
 import { type HingeSide, pictureBox } from './facePainter.ts';
-import type { Box, Size } from './geometry.ts';
+import type { Box, Point, Size } from './geometry.ts';
 import { type Layout, layoutBook, type Mode } from './layout.ts';
-import type { Side } from './restingSides.ts';
-import { arrange, type Face, placesOf, type Spread, spreadOf } from './spreads.ts';
+import { arrange, type Face, placesOf, type Side, type Spread, spreadOf } from './spreads.ts';
 
 export interface PlanOptions {
   readonly coverAlone: boolean;
   readonly rightToLeft: boolean;
   readonly hardCovers: boolean;
+  /** Of a page, width over height. */
+  readonly shapeOf: (place: number) => number;
 }
 
 /** From one spread to another. */
@@ -26,7 +27,7 @@ export class BookPlan {
   constructor(
     private readonly book: Book,
     private readonly options: PlanOptions,
-    readonly space: Size,
+    space: Size,
     margin: Size,
     mode: Mode,
   ) {
@@ -59,6 +60,19 @@ export class BookPlan {
     return { x: double && !isLeft ? book.x + leaf.width : book.x, y: book.y, ...leaf };
   }
 
+  /** A point of the sheet, in leaf coordinates (see curl.ts) with the height 1. */
+  leafPoint({ x, y }: Point): Point {
+    const mirror = this.options.rightToLeft ? -1 : 1;
+    const { hingeX, book, leaf } = this.layout;
+    return { x: ((x - hingeX) * mirror) / leaf.height, y: (y - book.y) / leaf.height };
+  }
+
+  /** The width of a leaf with the height 1. */
+  get leafShape(): number {
+    const { width, height } = this.layout.leaf;
+    return width / height;
+  }
+
   hingeOf(side: Side): HingeSide {
     if (!this.layout.double) return 'none';
     return (side === 'end') !== this.options.rightToLeft ? 'left' : 'right';
@@ -82,13 +96,13 @@ export class BookPlan {
   /** The whole page that a face is of, as it is drawn on a side. */
   pageBox(face: Face, side: Side): Box {
     const window = this.sideBox(side);
-    const box = pictureBox(this.layout.leaf, face, this.hingeOf(side), this.shapeOf(face.place));
+    const box = pictureBox(this.layout.leaf, face, this.hingeOf(side), this.options.shapeOf(face.place));
     return { ...box, x: window.x + box.x, y: window.y + box.y };
   }
 
   pageSize(place: number): Size {
     const wide = this.layout.double && isWide(this.book.pages[place - 1], this.book.shape);
-    return pictureBox(this.layout.leaf, { place, part: wide ? 'start' : 'whole' }, 'none', this.shapeOf(place));
+    return pictureBox(this.layout.leaf, { place, part: wide ? 'start' : 'whole' }, 'none', this.options.shapeOf(place));
   }
 
   /** Pixels of a canvas to a CSS pixel: those of the screen, but no more than the page's picture has. */
@@ -108,10 +122,5 @@ export class BookPlan {
     if (!this.options.hardCovers || !this.layout.double) return false;
     const closesAtEnd = this.spreads[this.lastSpread]?.end === undefined;
     return from === 0 || (closesAtEnd && to === this.lastSpread);
-  }
-
-  private shapeOf(place: number): number {
-    const { width, height } = this.book.pages[place - 1] ?? { width: 0, height: 0 };
-    return width > 0 && height > 0 ? width / height : 0;
   }
 }

@@ -2,34 +2,28 @@
 import type { Book } from './book.ts';
 import { BookPictures } from './bookPictures.ts';
 import { BookPlan } from './bookPlan.ts';
-import { type Paper, paintFace } from './facePainter.ts';
-import { fadingPicture } from './fading.ts';
+import type { Paper } from './facePainter.ts';
 import { FlyingLeaves } from './flyingLeaves.ts';
-import { clamp, type Point } from './geometry.ts';
+import { type Box, clamp, type Point } from './geometry.ts';
 import type { Quality } from './governor.ts';
-import { airSpace, faceOnGround, placedPages, wantedPlaces } from './ground.ts';
+import { airSpace, placedPages, wantedPlaces } from './ground.ts';
 import type { Mode } from './layout.ts';
 import { PageEdges } from './pageEdges.ts';
-import { RestingSides, type Side, SIDES } from './restingSides.ts';
-import { type PlacedPage, SharpView } from './sharpView.ts';
-import { SheetPlace } from './sheetPlace.ts';
-import type { Face } from './spreads.ts';
+import { RestingSides } from './restingSides.ts';
+import type { Settings } from './settings.ts';
+import type { PlacedPage } from './sharpView.ts';
 import { stiffnessOf } from './spring.ts';
 import { marginOf, onOtherSize, sizeOf } from './stageSize.ts';
 import { type FlyingLeaf, Turning } from './turning.ts';
 import type { View, ViewEvents } from './view.ts';
-import { keptInSight, middleOf, NO_ZOOM, type Zoom, zoomOn } from './zoom.ts';
+import type { Zoom } from './zoom.ts';
+import { ZoomedSheet } from './zoomedSheet.ts';
 
-export interface ViewOptions {
-  readonly mode: Mode;
-  readonly coverAlone: boolean;
-  readonly rightToLeft: boolean;
-  readonly turnSeconds: number;
+type Wishes = 'mode' | 'coverAlone' | 'rightToLeft' | 'turnSeconds' | 'hardCovers' | 'pageEdges' | 'wheelTurns';
+
+export interface ViewOptions extends Pick<Settings, Wishes> {
   readonly paper: Paper;
   readonly standIn: (place: number) => CanvasImageSource | undefined;
-  readonly hardCovers: boolean;
-  readonly pageEdges: boolean;
-  readonly wheelTurns: boolean;
 }
 
 const MOST_BITMAPS = 10;
@@ -42,20 +36,20 @@ const NEAR_AFTER_A_TURN = [1, 2, -1];
  * places and spreads; what hands, keys and addresses do to it is said by its methods.
  */
 export class BookView implements View {
-  private readonly sheetPlace = new SheetPlace();
-  private readonly sides = new RestingSides();
+  private readonly sides: RestingSides;
   readonly pictures: BookPictures;
   private readonly leaves: FlyingLeaves;
-  private readonly sharp: SharpView;
+  private readonly zoomedSheet: ZoomedSheet;
   private readonly edges: PageEdges;
   private plan!: BookPlan;
   private turning!: Turning; // made with the first plan
   private mode: Mode;
-  private reducedMotion = false;
+  fades = false; // rather than turn leaves
   private unfollow: (() => void) | undefined; // the size of the stage
   private hasTurned = false;
   private heading: 1 | -1 = 1; // of the last turn
   private told = 0; // the spread that was last said to lie open
+  private asked: number; // a page of that
 
   constructor(
     readonly host: HTMLElement,
@@ -65,27 +59,28 @@ export class BookView implements View {
     place: number,
   ) {
     this.mode = options.mode;
+    this.asked = place;
     this.pictures = new BookPictures(book, options.paper, options.standIn, (at) => this.pictured(at), MOST_BITMAPS);
+    this.sides = new RestingSides(this.pictures, options.paper);
     this.leaves = new FlyingLeaves(this.pictures.source, options.paper, options.rightToLeft);
-    this.sharp = new SharpView(this.pictures.files);
-    this.edges = new PageEdges((fraction) => events.jumpAsked(Math.ceil(fraction * book.pages.length)));
+    this.zoomedSheet = new ZoomedSheet(this.pictures, this, (zoom) => events.zoomed(zoom));
+    this.edges = new PageEdges(book.pages.length, (place) => events.jumpAsked(place));
     if (options.pageEdges) this.sheet.append(this.edges.start, this.edges.end);
-    const { start, end } = this.sides.canvases;
-    this.sheet.append(start, end, this.sharp.element, this.leaves.element);
+    this.sheet.append(...Object.values(this.sides.canvases), this.zoomedSheet.sharp.element, this.leaves.element);
     host.append(this.sheet);
-    this.arrangeAt(place);
+    this.arrange();
   }
 
   start(): void {
     this.tell();
     this.unfollow = onOtherSize(this.host, () => {
-      this.arrangeAt(this.place);
+      this.arrange();
       this.tell();
     });
   }
 
   get sheet(): HTMLElement {
-    return this.sheetPlace.element;
+    return this.zoomedSheet.element;
   }
 
   /** Of the pages that lie open, or will when all has landed, in reading order. */
@@ -102,19 +97,15 @@ export class BookView implements View {
   }
 
   get zoom(): Zoom {
-    return this.sheetPlace.zoom;
+    return this.zoomedSheet.zoom;
   }
 
   get flying(): readonly FlyingLeaf[] {
     return this.turning.leaves;
   }
 
-  get fades(): boolean {
-    return this.reducedMotion;
-  }
-
   setReducedMotion(reduced: boolean): void {
-    this.reducedMotion = reduced;
+    this.fades = reduced;
   }
 
   canTurn(step: number): boolean {
@@ -123,52 +114,56 @@ export class BookView implements View {
   }
 
   turn(count: number): boolean {
-    const turned = this.reducedMotion
+    const turned = this.fades
       ? this.fadeTo(clamp(this.turning.destination + count, 0, this.plan.lastSpread))
       : this.turning.turn(count);
     if (turned) this.tellTurned();
     return turned;
   }
 
-  goTo(place: number): void {
+  goTo(place: number, top?: number): void {
     const spread = this.plan.spreadOf(place);
-    if (this.reducedMotion) this.fadeTo(spread);
+    if (this.fades) this.fadeTo(spread);
     else this.turning.jump(spread);
     this.tellTurned();
+    this.asked = place;
+    if (top !== undefined) this.zoomedSheet.reveal(place, top, this.moveSeconds);
   }
 
   reveal(place: number, top = 0): void {
-    const page = this.placedPages.find((placed) => placed.place === place);
-    if (!page || this.zoom.scale <= 1) return;
-    const seen = { ...page.picture, x: page.picture.x + this.plan.shiftAt(this.turning.destination) };
-    this.setZoom(zoomOn(this.zoom.scale, { x: 0.5, y: top }, seen, sizeOf(this.host)));
+    this.zoomedSheet.reveal(place, top);
   }
 
   setMode(mode: Mode): void {
     this.mode = mode;
-    this.arrangeAt(this.place);
+    this.arrange();
     this.tell();
   }
 
   setZoom(zoom: Zoom): void {
-    const open = this.plan.openPart(this.turning.destination);
-    this.sheetPlace.zoom = zoom.scale === 1 ? NO_ZOOM : keptInSight(zoom, open, sizeOf(this.host));
-    this.sharpen();
-    this.events.zoomed(this.zoom);
+    this.zoomedSheet.setZoom(zoom);
+  }
+
+  get openPart(): Box {
+    return this.plan.openPart(this.turning.destination);
+  }
+
+  get openPages(): PlacedPage[] {
+    const { destination } = this.turning;
+    return placedPages(this.plan, { lowest: destination, highest: destination });
+  }
+
+  get isStill(): boolean {
+    return !this.turning.isMoving;
   }
 
   /** A point of the host, in CSS pixels, in leaf coordinates (see curl.ts) with the height 1. */
   leafPoint(point: Point): Point {
-    const mirror = this.options.rightToLeft ? -1 : 1;
-    const { hingeX, book, leaf } = this.plan.layout;
-    const { x, y } = this.sheetPlace.toSheet(point);
-    return { x: ((x - hingeX) * mirror) / leaf.height, y: (y - book.y) / leaf.height };
+    return this.plan.leafPoint(this.zoomedSheet.toSheet(point));
   }
 
-  /** Of a leaf with the height 1. */
   get leafShape(): number {
-    const { width, height } = this.plan.layout.leaf;
-    return width / height;
+    return this.plan.leafShape;
   }
 
   /** CSS pixels of the height that leaf coordinates have as their unit. */
@@ -177,7 +172,7 @@ export class BookView implements View {
   }
 
   hold(step: 1 | -1, pointer: Point): FlyingLeaf | undefined {
-    this.sheetPlace.rest();
+    this.zoomedSheet.rest();
     return this.turning.hold(step, pointer);
   }
 
@@ -191,28 +186,19 @@ export class BookView implements View {
     this.tellTurned();
   }
 
-  drop(leaf: FlyingLeaf, target: 0 | 1): void {
-    this.turning.drop(leaf, target);
-    this.tellTurned();
-  }
-
   destroy(): void {
     this.unfollow?.();
     this.turning.stop();
-    this.sharp.clear();
-    this.pictures.pictures.close();
-  }
-
-  private sharpen(): void {
-    const { scale } = this.zoom;
-    if (scale > 1) this.sharp.showSoon(this.placedPages, this.sheetPlace.seen(sizeOf(this.host)), scale);
-    else this.sharp.clear();
+    this.zoomedSheet.sharp.clear();
+    this.pictures.close();
   }
 
   private pictured(place: number): void {
     this.paintSides();
     if (this.turning.isMoving) this.turning.wake();
     else this.prepareNextLeaf();
+    if (this.places.includes(place)) this.zoomedSheet.sharpen();
+    if (!this.book.hasPageList) this.placePages();
     this.events.pictured(place);
   }
 
@@ -220,56 +206,43 @@ export class BookView implements View {
     const { destination } = this.turning;
     if (destination === this.told) return;
     this.heading = destination > this.told ? 1 : -1;
+    this.hasTurned = true;
     this.told = destination;
-    this.moveSheet();
+    this.asked = this.place;
+    // A closed book lies in the middle.
+    this.zoomedSheet.move(this.plan.shiftAt(destination), this.moveSeconds);
     this.events.turned(this.places);
   }
 
-  /** A closed book lies in the middle, an enlarged one shows no more of what lies around it than it must. */
-  private moveSheet(): void {
-    const { destination } = this.turning;
-    const isWhole = this.zoom.scale === 1;
-    const zoom = isWhole ? NO_ZOOM : keptInSight(this.zoom, this.plan.openPart(destination), sizeOf(this.host));
-    this.sheetPlace.place(zoom, this.plan.shiftAt(destination), this.reducedMotion ? 0 : this.options.turnSeconds);
-    if (!isWhole) this.events.zoomed(zoom);
+  private get moveSeconds(): number {
+    return this.fades ? 0 : this.options.turnSeconds;
   }
 
   /** A cross-fade instead of a turn. */
   private fadeTo(spread: number): boolean {
     if (spread === this.turning.destination) return false;
-    const parts = SIDES.map((side) => ({ canvas: this.sides.canvases[side], box: this.plan.sideBox(side) }));
-    this.sheet.append(fadingPicture(this.plan.layout.book, parts.filter(({ canvas }) => !canvas.hidden)));
+    this.sheet.append(this.sides.fading(this.plan));
     this.turning.settle(spread);
     return true;
   }
 
-  private arrangeAt(place: number): void {
-    const look = this.look();
-    this.plan = new BookPlan(this.book, this.options, sizeOf(this.host), marginOf(this.host), this.mode);
-    this.startTurning(this.plan.spreadOf(place));
+  /** In the size that the stage has, at the page that was asked for last, or the one that is looked at. */
+  private arrange(): void {
+    const look = this.turning && this.zoomedSheet.look();
+    const space = sizeOf(this.host);
+    const options = { ...this.options, shapeOf: (place: number) => this.pictures.shapeOf(place) };
+    this.plan = new BookPlan(this.book, options, space, marginOf(this.host), this.mode);
+    if (look) this.asked = look.place;
+    this.startTurning(this.plan.spreadOf(this.asked));
     // What takes longest is under way before anything is drawn.
     this.wantPictures();
-    for (const side of SIDES) this.sides.place(side, this.plan.sideBox(side));
-    this.sheetPlace.place(NO_ZOOM, this.plan.shiftAt(this.turning.destination));
-    this.setZoom(look ? this.zoomOnOpen(look.scale, look.at) : NO_ZOOM);
+    this.zoomedSheet.layOut(space, this.plan.shiftAt(this.told), look);
     this.leaves.clear();
     this.paintSides();
   }
 
-  /** Of an enlarged book, how much and where it is enlarged, in fractions of what lies open. */
-  private look(): { scale: number; at: Point } | undefined {
-    if (!this.plan || this.zoom.scale <= 1) return undefined;
-    const open = this.plan.openPart(this.turning.destination);
-    return { scale: this.zoom.scale, at: middleOf(this.zoom, open, this.plan.space) };
-  }
-
-  private zoomOnOpen(scale: number, at: Point): Zoom {
-    return zoomOn(scale, at, this.plan.openPart(this.turning.destination), sizeOf(this.host));
-  }
-
   private tell(): void {
-    this.placeEdges();
-    this.events.placed(this.placedPages);
+    this.placePages();
     this.events.settled(this.places);
   }
 
@@ -286,24 +259,21 @@ export class BookView implements View {
   }
 
   private settle(): void {
-    this.sharpen();
+    this.zoomedSheet.sharpen();
     this.events.settled(this.places);
     this.prepareNextLeaf();
   }
 
   private showGround(): void {
-    const { isMoving } = this.turning;
-    this.hasTurned ||= isMoving;
-    if (isMoving) this.sharp.clear();
+    this.zoomedSheet.sharp.clear();
     this.wantPictures();
     this.paintSides();
-    this.placeEdges();
-    this.events.placed(this.placedPages);
+    this.placePages();
   }
 
-  private placeEdges(): void {
-    const through = this.turning.lowest / Math.max(this.plan.lastSpread, 1);
-    this.edges.place(this.plan.layout.book, this.book.pages.length / 2, through, this.options.rightToLeft);
+  private placePages(): void {
+    this.edges.place(this.plan, this.turning.lowest, this.options.rightToLeft);
+    this.events.placed(placedPages(this.plan, this.turning));
   }
 
   private wantPictures(): void {
@@ -312,21 +282,8 @@ export class BookView implements View {
     this.pictures.want(all.slice(0, MOST_BITMAPS), (place) => seen.includes(place), (place) => this.plan.pageSize(place));
   }
 
-  private get placedPages(): PlacedPage[] {
-    return placedPages(this.plan, this.turning);
-  }
-
   private paintSides(): void {
-    for (const side of SIDES) this.paintSide(side, faceOnGround(this.plan, this.turning, side));
-  }
-
-  private paintSide(side: Side, face: Face | undefined): void {
-    const { source, pictures } = this.pictures;
-    this.sides.canvases[side].dataset.drawn = face && pictures.get(face.place) ? String(face.place) : '';
-    const ratio = this.plan.pixelRatioOf(face);
-    this.sides.show(side, face, face && source.picture(face.place), ratio, (context, leaf) =>
-      paintFace(context, leaf, face, this.plan.hingeOf(side), source, this.options.paper),
-    );
+    this.sides.paint(this.plan, this.turning);
   }
 
   private paintLeaves(quality: Quality): void {
@@ -335,7 +292,7 @@ export class BookView implements View {
   }
 
   private prepareNextLeaf(): void {
-    if (this.reducedMotion) return;
+    if (this.fades) return;
     const from = this.turning.destination - (this.heading > 0 ? 0 : 1);
     this.leaves.prepareSoon(this.plan, { from, to: from + 1 }, () => !this.turning.isMoving);
   }

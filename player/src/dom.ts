@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+import type { Box } from './geometry.ts';
+
 export type Child = Node | string;
 
 /** An element with properties set, `data-` and `aria-` ones and other hyphenated names as attributes. */
@@ -15,6 +17,12 @@ export function create<Name extends keyof HTMLElementTagNameMap>(
   }
   element.append(...children);
   return element;
+}
+
+/** Where it lies in what it is positioned in, in CSS pixels or another unit. */
+export function putAt({ style }: HTMLElement, { x, y, width, height }: Box, unit = 'px'): void {
+  [style.left, style.top] = [x + unit, y + unit];
+  [style.width, style.height] = [width + unit, height + unit];
 }
 
 const LEAD_PIXELS = 8;

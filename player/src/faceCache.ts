@@ -30,6 +30,7 @@ export class FaceCache {
     this.used.add(whole);
     const kept = this.kept.get(whole);
     if (kept && kept.made === made) return kept;
+    if (kept) kept.picture.width = 0;
     const face = { ...painted(leaf, ratio, paint), made };
     this.kept.set(whole, face);
     return face;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+import { clamp } from './geometry.ts';
 
 /**
  * Which leaves are in the air and where they go. A leaf lies between two spreads: at 0 it lies on
@@ -64,7 +65,7 @@ export class Flight<Mover> {
   /** Turns by so many spreads; each one is seen. Answers whether there is any to turn. */
   turn(count: number): boolean {
     const before = this.destination;
-    const wanted = Math.max(0, Math.min(this.spreadCount - 1, before + count));
+    const wanted = clamp(before + count, 0, this.spreadCount - 1);
     this.pending += wanted - before;
     return wanted !== before;
   }

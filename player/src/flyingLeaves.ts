@@ -8,8 +8,7 @@ import type { Quality } from './governor.ts';
 import { cancelIdle, whenIdle } from './idle.ts';
 import type { LeafFaces, PaintedFace } from './leafPainter.ts';
 import type { Ground } from './leafShadow.ts';
-import type { Side } from './restingSides.ts';
-import type { Face } from './spreads.ts';
+import type { Face, Side } from './spreads.ts';
 import type { FlyingLeaf, Turning } from './turning.ts';
 
 /** Paints the leaves that are in the air, with the pages on them. */

@@ -4,18 +4,18 @@ import { type Point, scale, subtract } from './geometry.ts';
 /** What fingers, a pen or a mouse do, in CSS pixels of the element that they do it on. */
 export interface GestureHandler {
   /** A pointer went down and moved; answers whether the drag is taken. */
-  dragStart(from: Point, direction: Point): boolean;
-  dragMove(to: Point): void;
+  dragStart?(from: Point, direction: Point): boolean;
+  dragMove?(to: Point): void;
   /** With a velocity in pixels a second. */
-  dragEnd(velocity: Point): void;
+  dragEnd?(velocity: Point): void;
   /** The drag came to nothing: the pointer was lost, or a second finger came. */
-  dragCancel(): void;
-  tap(at: Point): void;
+  dragCancel?(): void;
+  tap?(at: Point): void;
   doubleTap(at: Point): void;
-  pinchStart(middle: Point): void;
+  pinchStart?(middle: Point): void;
   /** Since the start: how much the fingers have spread, and where their middle is. */
-  pinchMove(factor: number, middle: Point): void;
-  pinchEnd(): void;
+  pinchMove?(factor: number, middle: Point): void;
+  pinchEnd?(): void;
 }
 
 const DRAG_PIXELS = 6;
@@ -59,6 +59,8 @@ export class Gestures {
   }
 
   private down(event: PointerEvent): void {
+    // The first finger is the only one: of others nobody heard that they left.
+    if (event.isPrimary) this.pointers.clear();
     if (event.button !== 0 || this.pointers.size === 2 || isControl(event.target)) return;
     const sample = { at: this.place(event), time: event.timeStamp };
     this.pointers.set(event.pointerId, { start: sample, samples: [sample] });
@@ -70,11 +72,11 @@ export class Gestures {
     const tracked = this.pointers.get(event.pointerId);
     if (!tracked) return;
     // It was let go where the element could not see it.
-    if (event.pointerType === 'mouse' && event.buttons === 0) return this.lost(event);
+    if (event.buttons === 0) return this.lost(event);
     const sample = { at: this.place(event), time: event.timeStamp };
     tracked.samples = [...tracked.samples.filter(({ time }) => sample.time - time < VELOCITY_MILLISECONDS), sample];
     if (this.state === 'pinching') this.pinch();
-    else if (this.state === 'dragging') this.handler.dragMove(sample.at);
+    else if (this.state === 'dragging') this.handler.dragMove?.(sample.at);
     else if (this.state === 'pressed') this.startDrag(event, tracked, sample.at);
   }
 
@@ -84,41 +86,41 @@ export class Gestures {
     if (!tracked) return;
     const { state } = this;
     this.state = this.pointers.size > 0 ? 'refused' : 'idle';
-    if (state === 'dragging') this.handler.dragEnd(velocityOf(tracked.samples, event.timeStamp));
-    else if (state === 'pinching') this.handler.pinchEnd();
+    if (state === 'dragging') this.handler.dragEnd?.(velocityOf(tracked.samples, event.timeStamp));
+    else if (state === 'pinching') this.handler.pinchEnd?.();
     else if (state === 'pressed' && !isLink(event.target) && event.timeStamp - tracked.start.time < TAP_MILLISECONDS)
       this.tap({ at: this.place(event), time: event.timeStamp });
   }
 
   private lost(event: PointerEvent): void {
     if (!this.pointers.delete(event.pointerId)) return;
-    if (this.state === 'dragging') this.handler.dragCancel();
-    if (this.state === 'pinching') this.handler.pinchEnd();
+    if (this.state === 'dragging') this.handler.dragCancel?.();
+    if (this.state === 'pinching') this.handler.pinchEnd?.();
     this.state = this.pointers.size > 0 ? 'refused' : 'idle';
   }
 
   private startDrag(event: PointerEvent, tracked: Tracked, at: Point): void {
     const moved = subtract(at, tracked.start.at);
     if (Math.hypot(moved.x, moved.y) < DRAG_PIXELS) return;
-    this.state = this.handler.dragStart(tracked.start.at, moved) ? 'dragging' : 'refused';
+    this.state = this.handler.dragStart?.(tracked.start.at, moved) ? 'dragging' : 'refused';
     if (this.state !== 'dragging') return;
     // Captured only now, so that a press on a link stays a click on it.
     this.element.setPointerCapture(event.pointerId);
-    this.handler.dragMove(at);
+    this.handler.dragMove?.(at);
   }
 
   private startPinch(): void {
-    if (this.state === 'dragging') this.handler.dragCancel();
+    if (this.state === 'dragging') this.handler.dragCancel?.();
     this.state = 'pinching';
     for (const pointerId of this.pointers.keys()) this.element.setPointerCapture(pointerId);
     const { spread, middle } = this.fingers();
     this.pinchDistance = Math.max(spread, 1);
-    this.handler.pinchStart(middle);
+    this.handler.pinchStart?.(middle);
   }
 
   private pinch(): void {
     const { spread, middle } = this.fingers();
-    this.handler.pinchMove(spread / this.pinchDistance, middle);
+    this.handler.pinchMove?.(spread / this.pinchDistance, middle);
   }
 
   private fingers(): { spread: number; middle: Point } {
@@ -135,7 +137,7 @@ export class Gestures {
       Math.hypot(sample.at.x - last.at.x, sample.at.y - last.at.y) < DOUBLE_TAP_PIXELS;
     this.lastTap = isDouble ? undefined : sample;
     if (isDouble) this.handler.doubleTap(sample.at);
-    else this.handler.tap(sample.at);
+    else this.handler.tap?.(sample.at);
   }
 
   private place(event: PointerEvent): Point {

@@ -1,24 +1,27 @@
 // SPDX-License-Identifier: MIT
 import type { BookPlan } from './bookPlan.ts';
 import type { Box, Size } from './geometry.ts';
-import { type Side, SIDES } from './restingSides.ts';
 import type { PlacedPage } from './sharpView.ts';
-import type { Face } from './spreads.ts';
+import { type Face, type Side, SIDES } from './spreads.ts';
 
-/** Which spreads are seen while leaves are in the air between them. */
-export interface Turns {
+/** The spreads that lie below the leaves in the air, at the start side and at the end side. */
+export interface OnGround {
   readonly lowest: number;
   readonly highest: number;
+}
+
+/** Which spreads are seen while leaves are in the air between them. */
+export interface Turns extends OnGround {
   readonly destination: number;
   readonly leaves: readonly { readonly to: number }[];
 }
 
 /** What lies below the leaves in the air. */
-export function faceOnGround({ spreads }: BookPlan, { lowest, highest }: Turns, side: Side): Face | undefined {
+export function faceOnGround({ spreads }: BookPlan, { lowest, highest }: OnGround, side: Side): Face | undefined {
   return side === 'start' ? spreads[lowest]?.start : spreads[highest]?.end;
 }
 
-export function placedPages(plan: BookPlan, turns: Turns): PlacedPage[] {
+export function placedPages(plan: BookPlan, turns: OnGround): PlacedPage[] {
   return SIDES.flatMap((side) => {
     const face = faceOnGround(plan, turns, side);
     if (!face || face.place === 0) return [];

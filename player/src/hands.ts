@@ -7,6 +7,7 @@ import { type Drag, isStroke, ZoomingHands } from './zoomingHands.ts';
 const GRAB_ZONE = 0.2;
 /** A leaf goes twice its width while a finger crosses the page once. */
 const SWIPE_GAIN = 2;
+const STILL: Point = { x: 0, y: 0 };
 
 /** What hands do to the book: turn its leaves, beside what they do to every view. */
 export class Hands extends ZoomingHands<BookView> {
@@ -72,7 +73,7 @@ export class Hands extends ZoomingHands<BookView> {
         const isSwipe = gain > 1 && moved * step < 0 && isStroke(moved * leafPixels, thrown.x * leafPixels);
         this.view.release(leaf, follow(thrown), isSwipe ? away : undefined);
       },
-      cancel: () => this.view.drop(leaf, home),
+      cancel: () => this.view.release(leaf, STILL, home),
     };
   }
 

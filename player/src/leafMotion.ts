@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 import { type Curl, curlOf, reachable } from './curl.ts';
-import { add, type Point, type Size, subtract } from './geometry.ts';
+import { add, clamp, type Point, type Size, subtract } from './geometry.ts';
 import { FORESIGHT_SECONDS, hasArrived, type Motion, springTo } from './spring.ts';
 
 /** Of the leaf's width. */
@@ -37,7 +37,7 @@ export class LeafMotion {
 
   /** From 0 where the leaf lies on the end side to 1 on the start side. */
   get progress(): number {
-    return Math.min(Math.max((this.grabbed.x - this.motion.position.x) / (2 * this.grabbed.x), 0), 1);
+    return clamp((this.grabbed.x - this.motion.position.x) / (2 * this.grabbed.x), 0, 1);
   }
 
   /** For a stiff leaf: the cosine of the angle that it has turned through. */

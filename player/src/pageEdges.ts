@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-import { type Box, clamp } from './geometry.ts';
+import type { BookPlan } from './bookPlan.ts';
+import { create, putAt } from './dom.ts';
+import { clamp } from './geometry.ts';
 
 const MOST_PIXELS = 14;
-const PIXELS_A_LEAF = 0.12;
+const PIXELS_A_PAGE = 0.06;
 const LEAST_PIXELS = 3;
 
 /** The edges of the leaves left and right of the open ones; a click on them jumps there. */
@@ -10,8 +12,10 @@ export class PageEdges {
   readonly start = edge('start');
   readonly end = edge('end');
 
-  /** `jump` gets how far through the book the click was, from 0 to 1. */
-  constructor(jump: (fraction: number) => void) {
+  constructor(
+    private readonly pageCount: number,
+    jump: (place: number) => void,
+  ) {
     for (const [element, isStart] of [[this.start, true], [this.end, false]] as const)
       element.addEventListener('click', (event) => {
         const box = element.getBoundingClientRect();
@@ -19,13 +23,15 @@ export class PageEdges {
         const isLeft = element.dataset.at === 'left';
         const inEdge = isLeft ? outwards : 1 - outwards; // 0 at the outer rim
         const open = Number(element.dataset.open);
-        jump(isStart ? inEdge * open : 1 - inEdge * (1 - open));
+        const through = isStart ? inEdge * open : 1 - inEdge * (1 - open);
+        jump(Math.ceil(through * pageCount));
       });
   }
 
-  /** `open` is how far through the book it lies open, from 0 to 1. */
-  place(book: Box, leafCount: number, open: number, rightToLeft: boolean): void {
-    const whole = clamp(leafCount * PIXELS_A_LEAF, LEAST_PIXELS, MOST_PIXELS);
+  /** Beside a spread that lies open; where there is no other, there is nothing to jump to. */
+  place({ layout: { book }, lastSpread }: BookPlan, spread: number, rightToLeft: boolean): void {
+    const whole = lastSpread === 0 ? 0 : clamp(this.pageCount * PIXELS_A_PAGE, LEAST_PIXELS, MOST_PIXELS);
+    const open = spread / Math.max(lastSpread, 1); // from 0 to 1
     for (const [element, part] of [[this.start, open], [this.end, 1 - open]] as const) {
       const isLeft = (element === this.start) !== rightToLeft;
       const width = Math.round(whole * part * 2) / 2;
@@ -33,20 +39,10 @@ export class PageEdges {
       element.dataset.open = String(open);
       element.hidden = width < 0.5;
       const x = isLeft ? book.x - width : book.x + book.width;
-      Object.assign(element.style, {
-        left: `${x}px`,
-        top: `${book.y}px`,
-        width: `${width}px`,
-        height: `${book.height}px`,
-      });
+      putAt(element, { ...book, x, width });
     }
   }
 }
 
 /** The slider does the same for keys and screen readers. */
-function edge(name: string): HTMLElement {
-  const element = document.createElement('div');
-  element.className = `edge ${name}`;
-  element.setAttribute('aria-hidden', 'true');
-  return element;
-}
+const edge = (name: string): HTMLElement => create('div', { className: `edge ${name}`, 'aria-hidden': 'true' });

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-import type { Size } from './geometry.ts';
+import { fit, type Size } from './geometry.ts';
 
 /** A part of a page, in fractions of it. */
 export interface PagePart {
@@ -27,11 +27,12 @@ export class PictureFiles {
     private readonly sizeOf: (place: number) => Size | undefined,
   ) {}
 
-  /** A page in a size, or in its own where that is smaller. */
+  /** A page in a size, or in its own where that is smaller; as large as fits in where its shape was not known before. */
   async decode(place: number, size: Size, signal: AbortSignal): Promise<ImageBitmap> {
     const source = await this.source(place, signal);
     const known = await this.size(place, source);
-    const options = resized(known.width < size.width ? known : size);
+    const asked = this.sizeOf(place) ? size : fit(known.width / known.height, size);
+    const options = resized(known.width < asked.width ? known : asked);
     // A browser that can't resize here draws the whole picture smaller, a little more slowly.
     return createImageBitmap(source, options).catch(() => createImageBitmap(source));
   }
@@ -50,6 +51,17 @@ export class PictureFiles {
   forget(place: number): void {
     this.blobs.delete(place);
     this.damaged.add(place);
+  }
+
+  /** Width over height, once the file of a page was there. */
+  shapeOf(place: number): number | undefined {
+    const size = this.sizes.get(place);
+    return size && size.width / size.height;
+  }
+
+  /** Lets go what is kept. */
+  close(): void {
+    this.blobs.clear();
   }
 
   private async size(place: number, source: Blob | HTMLImageElement): Promise<Size> {

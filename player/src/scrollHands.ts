@@ -20,18 +20,6 @@ export class ScrollHands implements GestureHandler {
     for (const name of ['touchend', 'touchcancel'] as const) host.addEventListener(name, () => this.endPinch());
   }
 
-  dragStart(): boolean {
-    return false;
-  }
-
-  dragMove(): void {}
-  dragEnd(): void {}
-  dragCancel(): void {}
-  tap(): void {}
-  pinchStart(): void {}
-  pinchMove(): void {}
-  pinchEnd(): void {}
-
   doubleTap(at: Point): void {
     toggleZoom(this.view, at);
   }

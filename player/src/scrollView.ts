@@ -136,7 +136,7 @@ export class ScrollView implements View {
     this.unfollow?.();
     clearTimeout(this.rest);
     this.sharp.clear();
-    this.pictures.pictures.close();
+    this.pictures.close();
   }
 
   private pictured(place: number): void {

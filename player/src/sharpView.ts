@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 import { makeCanvas, putCanvas } from './canvas.ts';
+import { create } from './dom.ts';
 import type { Box } from './geometry.ts';
 import type { PictureFiles } from './pictureFiles.ts';
 import { overlap } from './zoom.ts';
@@ -20,13 +21,11 @@ const REST_MILLISECONDS = 120;
  * sides, which are seen scaled meanwhile, so nothing is ever blank.
  */
 export class SharpView {
-  readonly element = document.createElement('div');
+  readonly element = create('div', { className: 'sharp' });
   private timer = 0;
   private turn = 0; // of the crops that are under way; older ones are dropped when they come
 
-  constructor(private readonly files: Pick<PictureFiles, 'crop'>) {
-    this.element.className = 'sharp';
-  }
+  constructor(private readonly files: Pick<PictureFiles, 'crop'>) {}
 
   clear(): void {
     clearTimeout(this.timer);

@@ -2,24 +2,20 @@
 import type { Book } from './book.ts';
 import { BookPictures } from './bookPictures.ts';
 import { makeCanvas } from './canvas.ts';
-import { create } from './dom.ts';
 import type { Paper } from './facePainter.ts';
 import { fadingPicture } from './fading.ts';
 import { type Box, clamp, fit, type Size } from './geometry.ts';
-import type { SlideEffect } from './settings.ts';
-import { SharpView } from './sharpView.ts';
+import type { Settings } from './settings.ts';
+import type { PlacedPage } from './sharpView.ts';
 import { SlideMotion } from './slideMotion.ts';
 import { stiffnessOf } from './spring.ts';
 import { marginOf, onOtherSize, sizeOf } from './stageSize.ts';
 import { Ticker } from './ticker.ts';
 import type { View, ViewEvents } from './view.ts';
-import { keptInSight, NO_ZOOM, seenBox, type Zoom } from './zoom.ts';
+import { NO_ZOOM, type Zoom } from './zoom.ts';
+import { ZoomedSheet } from './zoomedSheet.ts';
 
-export interface SlideOptions {
-  readonly rightToLeft: boolean;
-  readonly turnSeconds: number;
-  readonly slideEffect: SlideEffect;
-  readonly wheelTurns: boolean;
+export interface SlideOptions extends Pick<Settings, 'rightToLeft' | 'turnSeconds' | 'slideEffect' | 'wheelTurns'> {
   readonly paper: Paper;
   readonly standIn: (place: number) => CanvasImageSource | undefined;
 }
@@ -28,17 +24,15 @@ const NOTHING: Size = { width: 0, height: 0 };
 
 /** One page at a time, as large as the stage allows; the others wait beside it. */
 export class SlideView implements View {
-  readonly sheet = create('div', { className: 'sheet' });
   readonly isDouble = false;
   readonly pictures: BookPictures;
-  private readonly sharp: SharpView;
+  private readonly zoomedSheet: ZoomedSheet;
   private readonly slides = new Map<number, HTMLCanvasElement>(); // by place
   private readonly ticker = new Ticker((seconds) => this.step(seconds));
   private motion: SlideMotion;
   private reducedMotion = false;
   private unfollow: (() => void) | undefined; // the size of the stage
   private hasTurned = false;
-  private zoomed = NO_ZOOM;
   private space: Size = NOTHING;
   private margin: Size = NOTHING;
   private told = 0; // the place that was said to lie open
@@ -51,9 +45,9 @@ export class SlideView implements View {
     place: number,
   ) {
     this.pictures = new BookPictures(book, options.paper, options.standIn, (at) => this.pictured(at));
-    this.sharp = new SharpView(this.pictures.files);
+    this.zoomedSheet = new ZoomedSheet(this.pictures, this, (zoom) => events.zoomed(zoom));
     this.motion = new SlideMotion(book.pages.length, place, stiffnessOf(options.turnSeconds));
-    this.sheet.append(this.sharp.element);
+    this.sheet.append(this.zoomedSheet.sharp.element);
     host.append(this.sheet);
     this.arrange();
   }
@@ -74,8 +68,25 @@ export class SlideView implements View {
     return [this.place];
   }
 
+  get sheet(): HTMLElement {
+    return this.zoomedSheet.element;
+  }
+
   get zoom(): Zoom {
-    return this.zoomed;
+    return this.zoomedSheet.zoom;
+  }
+
+  get openPart(): Box {
+    return this.boxOf(this.place);
+  }
+
+  get openPages(): PlacedPage[] {
+    const box = this.openPart;
+    return [{ place: this.place, picture: box, window: box }];
+  }
+
+  get isStill(): boolean {
+    return this.motion.isStill;
   }
 
   /** Whether pages move in from the side, and so can follow a finger. */
@@ -127,36 +138,37 @@ export class SlideView implements View {
   }
 
   setZoom(zoom: Zoom): void {
-    const { space } = this;
-    this.zoomed = zoom.scale === 1 ? NO_ZOOM : keptInSight(zoom, this.boxOf(this.place), space);
-    const { scale, offset } = this.zoomed;
-    this.sheet.style.transform = scale === 1 ? '' : `translate(${offset.x}px, ${offset.y}px) scale(${scale})`;
-    if (scale > 1) this.sharp.showSoon([this.placed()], seenBox(this.zoomed, space), scale);
-    else this.sharp.clear();
-    this.events.zoomed(this.zoomed);
+    this.zoomedSheet.setZoom(zoom);
+  }
+
+  reveal(place: number, top = 0): void {
+    this.zoomedSheet.reveal(place, top);
   }
 
   destroy(): void {
     this.unfollow?.();
     this.ticker.stop();
-    this.sharp.clear();
-    this.pictures.pictures.close();
+    this.zoomedSheet.sharp.clear();
+    this.pictures.close();
   }
 
   private pictured(place: number): void {
     const slide = this.slides.get(place);
     if (slide) this.pictures.paint(slide, place, this.boxOf(place));
+    if (place === this.place) this.zoomedSheet.sharpen();
+    if (!this.book.hasPageList) this.tellPlaced();
     this.events.pictured(place);
   }
 
   private arrange(): void {
     const space = sizeOf(this.host);
     if (!space.width || !space.height) return;
+    const look = this.zoomedSheet.look();
     this.space = space;
     this.margin = marginOf(this.host);
     this.motion.show(this.place);
     for (const place of this.slides.keys()) this.drop(place);
-    this.setZoom(NO_ZOOM);
+    this.zoomedSheet.layOut(space, 0, look);
     this.showSlides();
   }
 
@@ -170,26 +182,26 @@ export class SlideView implements View {
     this.ticker.wake();
     if (this.place === this.told) return;
     this.hasTurned = true;
-    if (this.zoomed.scale !== 1) this.setZoom(NO_ZOOM);
+    if (this.zoom.scale !== 1) this.setZoom(NO_ZOOM);
     this.tellPlaced();
     this.events.turned(this.places);
   }
 
   private tellPlaced(): void {
     this.told = this.place;
-    this.events.placed([this.placed()]);
-  }
-
-  private placed(): { place: number; picture: Box; window: Box } {
-    const box = this.boxOf(this.place);
-    return { place: this.place, picture: box, window: box };
+    this.events.placed(this.openPages);
   }
 
   private step(seconds: number): boolean {
     const rests = this.motion.isStill || this.motion.step(seconds);
     this.showSlides();
-    if (rests) this.events.settled(this.places);
+    if (rests) this.settle();
     return !rests && !this.motion.isHeld;
+  }
+
+  private settle(): void {
+    this.zoomedSheet.sharpen();
+    this.events.settled(this.places);
   }
 
   private change(place: number): void {
@@ -232,7 +244,7 @@ export class SlideView implements View {
     if (known) return known;
     const slide = makeCanvas('side');
     this.slides.set(place, slide);
-    this.sharp.element.before(slide);
+    this.zoomedSheet.sharp.element.before(slide);
     this.pictures.paint(slide, place, this.boxOf(place));
     return slide;
   }

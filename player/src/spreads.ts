@@ -4,7 +4,9 @@
  * Which pages are seen together. A place counts from 1 in the order of the book; a spread has a
  * start and an end side in reading order, so that right-to-left books differ in drawing alone.
  */
-export type Part = 'whole' | 'start' | 'end';
+export type Side = 'start' | 'end';
+export const SIDES = ['start', 'end'] as const;
+export type Part = 'whole' | Side;
 
 export interface Face {
   readonly place: number; // 0: blank paper

@@ -63,7 +63,7 @@ export class Turning {
 
   turn(count: number): boolean {
     const turned = this.flight.turn(count);
-    this.wake();
+    if (turned) this.wake();
     return turned;
   }
 
@@ -91,17 +91,10 @@ export class Turning {
     this.wake();
   }
 
-  /** Lets a leaf go with a velocity in its heights a second. */
+  /** Lets a leaf go with a velocity in its heights a second, to a side or to where it falls by itself. */
   release(leaf: FlyingLeaf, velocity: Point, target?: 0 | 1): void {
     const falls = leaf.mover.release(velocity);
     leaf.target = target ?? falls;
-    leaf.held = false;
-    this.wake();
-  }
-
-  /** Back to the side it came from. */
-  drop(leaf: FlyingLeaf, target: 0 | 1): void {
-    leaf.target = target;
     leaf.held = false;
     this.wake();
   }

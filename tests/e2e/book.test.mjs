@@ -2,7 +2,7 @@
 import assert from 'node:assert/strict';
 import { after, afterEach, before, describe, it } from 'node:test';
 import { launchBrowser } from '../../tools/browser.mjs';
-import { changedBook, openBook, openPages, publishMagazine, removeBook, scriptWith, turnWith } from './support.mjs';
+import { changedBook, openBook, openPages, publishMagazine, removeBook, scriptWith, stays, turnWith } from './support.mjs';
 import { fingersOn } from './fingers.mjs';
 
 const position = (page) => page.locator('.page-field .total').textContent();
@@ -68,7 +68,7 @@ describe('a published book', () => {
     const fingers = await fingersOn(page);
     const swipe = (across, down) => fingers.stroke([640, 300], [640 + across, 300 + down]);
     await swipe(-40, 200);
-    assert.deepEqual(await openPages(page), [1]);
+    await stays(page, [1]);
     assert.deepEqual(await turnWith(page, () => swipe(-300, 10)), [2, 3]);
     assert.deepEqual(await turnWith(page, () => swipe(300, 10)), [1]);
   });
@@ -101,6 +101,9 @@ describe('a published book', () => {
     await page.setViewportSize({ width: 1280, height: 800 });
     await page.waitForFunction(() => document.querySelectorAll('.page').length === 2);
     assert.deepEqual(await openPages(page), [2, 3]);
+    await page.setViewportSize({ width: 768, height: 1024 });
+    await page.waitForFunction(() => document.querySelectorAll('.page').length === 1);
+    assert.deepEqual(await openPages(page), [3], 'the page that was read');
   });
 
   it('shows the pages in pairs, or one by one, as its reader chooses', async () => {
@@ -108,10 +111,10 @@ describe('a published book', () => {
     const seen = [await openPages(page)];
     for (const view of ['automatic', 'single page', 'two pages'])
       seen.push(await turnWith(page, () => page.getByRole('button', { name: `View: ${view}` }).click()));
-    assert.deepEqual(seen, [[2, 3], [2], [2, 3], [1, 2]]);
-    assert.deepEqual(await turnWith(page, () => page.keyboard.press('ArrowRight')), [3, 4]);
+    assert.deepEqual(seen, [[2, 3], [3], [2, 3], [3, 4]]);
+    assert.deepEqual(await turnWith(page, () => page.keyboard.press('ArrowRight')), [5, 6]);
     const chosenByWindow = await turnWith(page, () => page.getByRole('button', { name: 'View: other pairs of pages' }).click());
-    assert.deepEqual(chosenByWindow, [2, 3]);
+    assert.deepEqual(chosenByWindow, [4, 5]);
     assert.deepEqual(page.troubles, []);
   });
 
@@ -140,6 +143,14 @@ describe('a published book', () => {
     assert.ok(await page.locator('.mark').count() > 1);
     await page.keyboard.press('Escape');
     assert.equal(await page.locator('.mark, .panel').count(), 0);
+  });
+
+  it('has no edges of other pages when it has one page', async () => {
+    const page = await openBook(browser, published('--pages', '1'));
+    assert.deepEqual(await openPages(page), [1]);
+    assert.equal(await page.locator('.edge').filter({ visible: true }).count(), 0);
+    assert.equal(await page.locator('.next').getAttribute('aria-disabled'), 'true');
+    assert.deepEqual(page.troubles, []);
   });
 
   it('leads through contents, overview and page field', async () => {

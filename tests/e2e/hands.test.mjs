@@ -1,22 +1,33 @@
 // SPDX-License-Identifier: MIT
 import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
+import { join } from 'node:path';
 import { after, afterEach, before, describe, it } from 'node:test';
 import { launchBrowser } from '../../tools/browser.mjs';
-import { fingersOn } from './fingers.mjs';
+import { doubleClick, fingersOn } from './fingers.mjs';
 import {
-  changedBook, destination, openBook, openPages, publishMagazine, removeBook, scriptWith, turnWith, waitForDestination, zoomOf,
+  changedBook, destination, openBook, openPages, publishMagazine, removeBook, scriptWith, stays, turnWith,
+  waitForDestination, zoomOf,
 } from './support.mjs';
 
 const OPEN_AT = { hash: '#page/4' };
+/** The reader data of a book whose page 7 leads to the cover wherever its outer edge is pressed. */
+function linksAtTheEdge(book) {
+  const data = new Function(`${readFileSync(join(book, 'files/search/book.js'), 'utf8')}; return bookData`)();
+  data.pages[6].links = [{ x: 0.8, y: 0, width: 0.2, height: 1, place: 1 }];
+  return `var bookData = ${JSON.stringify(data)};`;
+}
+
 const inAir = (page) => page.waitForFunction(() => !document.querySelector('.air').hidden);
 
 describe('the book in hands', () => {
-  let browser, quick, slow;
+  let browser, quick, slow, linked;
 
   before(async () => {
     quick = publishMagazine('--set', 'turnDuration=150');
     // So slow that a leaf is still in the air whenever a test takes hold of it.
     slow = changedBook(quick, { files: { 'javascript/main.js': scriptWith(quick, { turnDuration: 60000 }) } });
+    linked = changedBook(slow, { files: { 'files/search/book.js': linksAtTheEdge(slow) } });
     browser = await launchBrowser();
   });
 
@@ -24,7 +35,7 @@ describe('the book in hands', () => {
 
   after(async () => {
     await browser?.close();
-    [quick, slow].filter(Boolean).forEach(removeBook);
+    [quick, slow, linked].filter(Boolean).forEach(removeBook);
   });
 
   async function open(book, options = OPEN_AT) {
@@ -67,9 +78,9 @@ describe('the book in hands', () => {
       const { page, at } = await open(quick);
       assert.deepEqual(await turnWith(page, () => page.mouse.click(...at(0.97, 0.2))), [6, 7]);
       assert.deepEqual(await turnWith(page, () => page.mouse.click(...at(0.03, 0.2))), [4, 5]);
-      await page.mouse.dblclick(...at(0.3, 0.5));
+      await doubleClick(page, ...at(0.3, 0.5));
       assert.equal((await zoomOf(page)).scale, 2.5);
-      await page.mouse.dblclick(...at(0.3, 0.5));
+      await doubleClick(page, ...at(0.3, 0.5));
       assert.equal((await zoomOf(page)).scale, 1);
       assert.deepEqual(await openPages(page), [4, 5]);
     });
@@ -78,7 +89,7 @@ describe('the book in hands', () => {
       const { page, at } = await open(quick);
       await turnWith(page, () => page.mouse.click(...at(0.97, 0.5), { clickCount: 3, delay: 20 }));
       assert.deepEqual(await openPages(page), [9]);
-      await page.mouse.dblclick(4, 400);
+      await doubleClick(page, 4, 400);
       assert.equal((await zoomOf(page)).scale, 1);
     });
 
@@ -90,8 +101,27 @@ describe('the book in hands', () => {
       await page.locator('.stage').dispatchEvent('pointermove', {
         pointerId: 1, pointerType: 'mouse', buttons: 0, clientX: at(0.5, 0.5)[0], clientY: at(0.5, 0.5)[1], bubbles: true,
       });
-      await page.waitForFunction(() => document.querySelector('.air').hidden);
-      assert.deepEqual(await openPages(page), [4, 5]);
+      await stays(page, [4, 5]);
+      assert.equal(await destination(page), '4–5');
+    });
+
+    it('never presses what lies under the leaves in the air', async () => {
+      const { page, at } = await open(linked);
+      for (const wanted of ['6–7', '8', '9']) {
+        await page.mouse.click(...at(0.97, 0.5));
+        await waitForDestination(page, wanted);
+        await inAir(page);
+        assert.equal(await page.locator('.pages').evaluate((pages) => getComputedStyle(pages).opacity), '0');
+      }
+    });
+
+    it('has turned nothing while a leaf is in the hand', async () => {
+      const { page, at } = await open(slow);
+      await drag(page, at(0.98, 0.5), at(0.3, 0.5));
+      await inAir(page);
+      await page.setViewportSize({ width: 390, height: 844 });
+      await page.waitForFunction(() => document.querySelectorAll('.page').length === 1);
+      assert.deepEqual(await openPages(page), [4], 'a leaf in the hand is not turned');
     });
 
     it('turns one page with a push of the wheel, and zooms about itself with Control', async () => {
@@ -173,6 +203,62 @@ describe('the book in hands', () => {
     assert.equal(await page.locator('.sharp .old').count(), 0);
   });
 
+  /** Enlarged, with sharp pictures; those that are asked for from here on do not come. */
+  async function openEnlarged(book, options) {
+    const opened = await open(book, { ...OPEN_AT, ...options });
+    await opened.page.keyboard.press('+');
+    await opened.page.locator('.sharp canvas').nth(1).waitFor({ state: 'attached' });
+    await opened.page.evaluate(() => {
+      const make = createImageBitmap;
+      const crop = () => new Promise(() => { window.crops = (window.crops ?? 0) + 1; });
+      window.createImageBitmap = (...given) => (given.length > 2 ? crop() : make(...given));
+    });
+    return opened;
+  }
+
+  it('never lays a sharp picture of one page over another', async () => {
+    const sharp = (page) => page.locator('.sharp canvas').count();
+    const faded = (await openEnlarged(quick, { reducedMotion: 'reduce' })).page;
+    assert.deepEqual(await turnWith(faded, () => faded.keyboard.press('PageDown')), [6, 7]);
+    assert.equal(await sharp(faded), 0);
+    const { page } = await openEnlarged(quick);
+    await page.getByRole('button', { name: 'View: automatic' }).click();
+    await page.waitForFunction(() => document.querySelectorAll('.page').length === 1);
+    assert.equal(await sharp(page), 0);
+    const turned = (await openEnlarged(slow)).page;
+    await turned.clock.install();
+    await turned.keyboard.press('PageDown');
+    await turned.clock.runFor(100);
+    await inAir(turned);
+    await turned.keyboard.press('ArrowLeft');
+    await turned.clock.runFor(500);
+    assert.equal(await turned.evaluate(() => window.crops), undefined, 'none is made of pages below a leaf in the air');
+  });
+
+  it('keeps looking at the page that is enlarged when the window changes its shape', async () => {
+    const { page } = await open(quick);
+    for (let press = 0; press < 3; press++) await page.keyboard.press('+');
+    for (let press = 0; press < 3; press++) await page.keyboard.press('ArrowRight');
+    assert.deepEqual(await openPages(page), [4, 5]);
+    await page.setViewportSize({ width: 500, height: 900 });
+    await page.waitForFunction(() => document.querySelectorAll('.page').length === 1);
+    assert.deepEqual(await openPages(page), [5]);
+    assert.equal((await zoomOf(page)).scale, 3);
+  });
+
+  it('moves an enlarged book to what was searched for on another page', async () => {
+    const { page } = await open(quick, { hash: '#page/10' });
+    for (let press = 0; press < 5; press++) await page.keyboard.press('+');
+    await page.keyboard.press('/');
+    await page.keyboard.type('anthocyanins');
+    assert.deepEqual(await turnWith(page, () => page.locator('.hits button').first().click()), [4, 5]);
+    const isInSight = () => {
+      const [mark, stage] = ['.mark.chosen', '.stage'].map((each) => document.querySelector(each).getBoundingClientRect());
+      return mark.top >= stage.top && mark.bottom <= stage.bottom;
+    };
+    await page.waitForFunction(isInSight);
+  });
+
   it('goes over a zoomed page with the arrow keys, and turns it where it ends', async () => {
     const { page } = await open(quick);
     for (let press = 0; press < 3; press++) await page.keyboard.press('+');
@@ -195,7 +281,7 @@ describe('the book in hands', () => {
       assert.deepEqual(await turnWith(page, () => fingers.tap(...at(0.97, 0.5))), [6, 7]);
       assert.deepEqual(await turnWith(page, () => fingers.tap(...at(0.03, 0.5))), [4, 5]);
       await fingers.tap(...at(0.7, 0.7));
-      assert.deepEqual(await openPages(page), [4, 5]);
+      await stays(page, [4, 5]);
       assert.deepEqual(await turnWith(page, () => fingers.stroke(at(0.7, 0.5), at(0.3, 0.52))), [6, 7]);
       assert.deepEqual(await turnWith(page, () => fingers.stroke(at(0.3, 0.5), at(0.7, 0.52))), [4, 5]);
     });
@@ -235,7 +321,7 @@ describe('the book in hands', () => {
       assert.ok(moved.x < middle.x && moved.y < middle.y);
       await fingers.stroke(at(0.95, 0.5), at(0.05, 0.5));
       assert.ok((await zoomOf(page)).x < moved.x);
-      assert.deepEqual(await openPages(page), [4, 5], 'reaching the edge is not going beyond it');
+      assert.equal(await destination(page), '4–5', 'reaching the edge is not going beyond it');
       assert.deepEqual(await turnWith(page, () => fingers.stroke(at(0.8, 0.5), at(0.5, 0.5))), [6, 7]);
       const turned = await zoomOf(page);
       assert.equal(turned.scale, 2);

@@ -50,8 +50,27 @@ describe('a book on the preview server', () => {
     before.forEach((channel, at) => assert.ok(Math.abs(channel - after[at]) < 30, `${before}, ${after}`));
   });
 
-  async function open() {
-    const page = await openBookAt(browser, server.addresses.find((address) => address.includes('127.0.0.1')));
+  it('makes sharp what is there of an enlarged spread, and asks once for what is late', async () => {
+    const page = await open();
+    const asked = [];
+    page.on('request', (request) => asked.push(request.url().split('/').at(-1)));
+    await page.keyboard.press('+');
+    const release = await jumpToLatePage(page);
+    const sharp = (count) => page.waitForFunction((wanted) => document.querySelectorAll('.sharp canvas').length === wanted, count);
+    await sharp(1);
+    release();
+    await sharp(2);
+    assert.equal(asked.filter((name) => name === '12.jpg').length, 1);
+  });
+
+  it('loads two spreads ahead once a page was turned, also where pages fade', async () => {
+    const page = await open({ reducedMotion: 'reduce', hash: '#page/4' });
+    const [request] = await Promise.all([page.waitForRequest('**/files/page/9.jpg'), page.keyboard.press('ArrowRight')]);
+    assert.ok(request);
+  });
+
+  async function open(options) {
+    const page = await openBookAt(browser, server.addresses.find((address) => address.includes('127.0.0.1')), options);
     await openPages(page);
     return page;
   }

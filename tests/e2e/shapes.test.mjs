@@ -59,6 +59,22 @@ describe('a book of other shapes', () => {
     assert.deepEqual(page.troubles, []);
   });
 
+  it('keeps the shape of each page without reader data too, once it was seen', async () => {
+    const shapes = [PORTRAIT, { width: 200, height: 400 }, { width: 300, height: 200 }];
+    const pages = shapes.map((size, index) => ({ ...size, colour: coloured(index) }));
+    for (const template of ['float', 'slide']) {
+      const page = await openBook(browser, quick(pages, '--template', template, '--set', 'readerData=NO'), { width: 600 });
+      const seen = [];
+      for (const place of [1, 2, 3]) {
+        assert.deepEqual(place === 1 ? await openPages(page) : await turnWith(page, () => page.keyboard.press('PageDown')), [place]);
+        const { width, height } = await page.locator('.page').boundingBox();
+        seen.push(width / height);
+      }
+      for (const [index, { width, height }] of shapes.entries()) assert.ok(Math.abs(seen[index] - width / height) < 0.02, `${template} ${seen}`);
+      assert.deepEqual(await coloursOf(page), [3]);
+    }
+  });
+
   it('keeps the shape of each page, at the fold, and opens a double page over both sides', async () => {
     const [slip, double, square] = [{ width: 200, height: 400 }, { width: 600, height: 400 }, { width: 300, height: 300 }];
     const sizes = [PORTRAIT, PORTRAIT, slip, double, square, PORTRAIT, PORTRAIT];

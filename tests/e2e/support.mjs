@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+import assert from 'node:assert/strict';
 import { spawnSync } from 'node:child_process';
 import { cpSync, mkdirSync, mkdtempSync, readdirSync, readFileSync, rmSync, symlinkSync, writeFileSync } from 'node:fs';
 import { tmpdir } from 'node:os';
@@ -111,6 +112,12 @@ export async function turnWith(page, press) {
     return isStill && shown.join() !== old;
   }, before.join());
   return openPages(page);
+}
+
+/** Whether nothing turns, also in the frames that follow. */
+export async function stays(page, places) {
+  await page.evaluate(() => new Promise((resolve) => requestAnimationFrame(() => requestAnimationFrame(resolve))));
+  assert.deepEqual(await openPages(page), places);
 }
 
 /** What the page field says: the pages that will lie open once all leaves have landed. */

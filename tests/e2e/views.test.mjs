@@ -7,7 +7,7 @@ import { launchBrowser } from '../../tools/browser.mjs';
 import { faults } from './axe.mjs';
 import { fingersOn } from './fingers.mjs';
 import {
-  changedBook, destination, openBook, openPages, publishColours, publishMagazine, removeBook, scriptWith, turnWith,
+  changedBook, destination, openBook, openPages, publishColours, publishMagazine, removeBook, scriptWith, stays, turnWith,
   waitForDestination, zoomOf,
 } from './support.mjs';
 
@@ -23,6 +23,10 @@ const press = (key) => (page) => page.keyboard.press(key);
 const counts = (...selectors) => (page) =>
   Promise.all(selectors.map((selector) => page.locator(selector).filter({ visible: true }).count()));
 const elements = (page) => page.evaluate(() => document.querySelectorAll('*').length);
+const liesInStage = (part) => part.evaluate((element) => {
+  const [inner, outer] = [element, document.querySelector('.stage')].map((each) => each.getBoundingClientRect());
+  return inner.top >= outer.top && inner.bottom <= outer.bottom && inner.left >= outer.left && inner.right <= outer.right;
+});
 const focusedName = (page) => page.evaluate(() => document.activeElement.getAttribute('aria-label'));
 
 /** The same few pictures over and over. */
@@ -142,7 +146,7 @@ describe('slides', () => {
     assert.deepEqual(await turnWith(page, () => fingers.stroke([200, 500], [300, 500])), [4]);
     assert.deepEqual(await turnWith(page, () => fingers.tap(790, 200)), [5]);
     await fingers.stroke([400, 300], [420, 700]);
-    assert.deepEqual(await openPages(page), [5]);
+    await stays(page, [5]);
   });
 
   it('go from right to left', async () => {
@@ -168,6 +172,20 @@ describe('slides', () => {
     await page.locator('.sharp canvas').first().waitFor({ state: 'attached' });
     assert.deepEqual(await turnWith(page, () => page.keyboard.press('PageDown')), [5]);
     assert.equal((await zoomOf(page)).scale, 1);
+  });
+
+  it('stay enlarged while the window changes, and move to what was searched for', async () => {
+    const page = await open(quick, { hash: '#page/4' });
+    for (let step = 0; step < 3; step++) await page.keyboard.press('+');
+    const { width } = await page.locator('.side:not([hidden])').boundingBox();
+    await page.setViewportSize({ width: 900, height: 700 });
+    await page.waitForFunction((before) => document.querySelector('.side:not([hidden])').getBoundingClientRect().width < before, width);
+    assert.equal((await zoomOf(page)).scale, 3);
+    await page.keyboard.press('/');
+    await page.keyboard.type('anthocyanins');
+    await page.locator('.hits button').first().click();
+    await page.locator('.mark.chosen').waitFor();
+    assert.ok(await liesInStage(page.locator('.mark.chosen')));
   });
 
   it('fade or are there at once where that is wished', async () => {
