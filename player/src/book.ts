@@ -56,17 +56,26 @@ export interface Book {
 /** A page this much wider than a leaf takes both sides of a spread. */
 const WIDE_PAGE = 1.3;
 
-export function readBook(config: BookConfig, data: BookData | undefined): Book {
+/** `fileAt` answers where a file of the book lies. */
+export function readBook(config: BookConfig, data: BookData | undefined, fileAt = (path: string) => path): Book {
   const known = isOn(config.readerData) && isWhole(data);
   const { pages, outline, textStarts } = known ? data : { pages: plainPages(config), outline: [], textStarts: [] };
-  return { pages, hasPageList: known, outline, textStarts, shape: leafShape(pages, config) };
+  const found = pages.map((page) => ({ ...page, image: fileAt(page.image) }));
+  return { pages: found, hasPageList: known, outline, textStarts, shape: leafShape(pages, config) };
 }
 
 /** A file that was changed by hand, or is another writer's, is as good as none. */
 function isWhole(data: BookData | undefined): data is BookData {
   if (data?.version !== 2 || ![data.pages, data.outline, data.textStarts].every(Array.isArray)) return false;
-  return data.pages.every((page) => typeof page?.image === 'string' && Array.isArray(page.links));
+  return data.pages.every(isPage);
 }
+
+const isPage = (page: Page | null): boolean =>
+  typeof page?.image === 'string' &&
+  typeof page.label === 'string' &&
+  page.label !== '' &&
+  Array.isArray(page.links) &&
+  page.links.every(Boolean);
 
 export const isOn = (value: unknown): boolean => /^(yes|true|show|enable|1)$/i.test(String(value));
 

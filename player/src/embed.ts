@@ -5,8 +5,8 @@ import { type MountedBook, mountBook, type MountOptions } from './mount.ts';
 
 /**
  * The same player for any page: `leafcastBook.mount(element, config, data)` shows a book in an
- * element that has a size. Paths of pictures count from the page's address. The answer turns the
- * book and tells of it:
+ * element that has a size. Paths of its files count from the folder given, or else from the page's
+ * address. The answer turns the book and tells of it:
  *
  *     const book = leafcastBook.mount(element, bookConfig, bookData, { place: 4, view: 'scroll' });
  *     book.on('settled', (places) => ...);    // or 'turned', at once
@@ -26,16 +26,17 @@ function mount(
   element: HTMLElement,
   config: BookConfig,
   data?: BookData,
-  options: Pick<MountOptions, 'place' | 'view'> = {},
+  options: Pick<MountOptions, 'place' | 'view' | 'folder'> = {},
 ): EmbeddedBook {
-  const { reader, signal, destroy }: MountedBook = mountBook(element, config, data, options);
-  if (reader) answerMessages(reader, signal);
-  const shown = () => (signal.aborted ? undefined : reader);
+  const { signal, destroy, reader }: MountedBook = mountBook(element, config, data, options);
+  let shown = reader;
+  if (shown) answerMessages(shown, signal);
+  signal.addEventListener('abort', () => (shown = undefined));
   return {
-    goTo: (place) => shown()?.goTo(place),
-    next: () => void shown()?.next(),
-    previous: () => void shown()?.previous(),
-    on: (name, listener) => shown()?.on(name, listener) ?? (() => {}),
+    goTo: (place) => shown?.goTo(place),
+    next: () => void shown?.next(),
+    previous: () => void shown?.previous(),
+    on: (name, listener) => shown?.on(name, listener) ?? (() => {}),
     destroy,
   };
 }

@@ -43,7 +43,7 @@ export function followSize(root: HTMLElement, signal: AbortSignal): void {
   signal.addEventListener('abort', onResize(root, measure));
 }
 
-const ATTRIBUTES = ['lang', 'dir', 'data-view', 'data-panel', 'data-tone', 'data-background'];
+const ATTRIBUTES = ['lang', 'dir', 'tabindex', 'data-view', 'data-panel', 'data-tone', 'data-background'];
 const CLASSES = ['leafcast', 'embedded', 'zoomed', 'no-bar', 'no-foot', 'no-turns', 'shadowed', 'narrow', 'short', 'awake'];
 const STYLES = [...Object.keys(COLOURS), 'background-image'];
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 import { type BookConfig, type BookData, readBook } from './book.ts';
+import { configIn, filesIn } from './bookFolder.ts';
 import { BookTexts } from './bookTexts.ts';
 import { CharacterKeys } from './characterKeys.ts';
 import { create } from './dom.ts';
@@ -31,6 +32,8 @@ export interface MountOptions {
   readonly ownsPage?: boolean;
   /** The page to open at, when the address names none. */
   readonly place?: number;
+  /** The address of the folder that the book's files lie in; otherwise the page's own. */
+  readonly folder?: string;
   /** Otherwise the element's attribute `data-view` says it. */
   readonly view?: ViewKind;
 }
@@ -49,7 +52,7 @@ const mounted = new WeakMap<HTMLElement, () => void>();
 /** Shows a book in an element that has a size; what the element holds is replaced, another book too. */
 export function mountBook(
   root: HTMLElement,
-  config: BookConfig,
+  given: BookConfig,
   data: BookData | undefined,
   options: MountOptions = {},
 ): MountedBook {
@@ -57,9 +60,11 @@ export function mountBook(
   const taken = new AbortController();
   const restoreLook = rememberLook(root);
   const kind = viewKind(options.view ?? root.dataset.view);
+  const fileAt = filesIn(options.folder);
+  const config = configIn(given, fileAt);
   // The wheel is for the page around the book.
   const settings = readSettings(options.ownsPage ? config : { wheelTurns: 'NO', ...config }, kind);
-  const book = readBook(config, data);
+  const book = readBook(config, data, fileAt);
   const say = speak(root, settings, options);
   root.classList.add('leafcast');
   root.classList.toggle('embedded', !options.ownsPage);
@@ -72,20 +77,21 @@ export function mountBook(
     mounted.delete(root);
     taken.abort();
     reader?.destroy();
+    reader = undefined; // who keeps the way to take it off keeps no more than that
     if (document.fullscreenElement === root) void document.exitFullscreen();
     root.replaceChildren();
     restoreLook();
   };
-  const given = (reader?: Reader): MountedBook => {
+  const mountedWith = (reader?: Reader): MountedBook => {
     const destroy = takeOff(reader);
     mounted.set(root, destroy);
     return { reader, signal: taken.signal, destroy };
   };
   if (book.pages.length === 0) {
     root.replaceChildren(create('p', { className: 'notice', role: 'status' }, say('empty')));
-    return given();
+    return mountedWith();
   }
-  const stage = makeStage(root, settings);
+  const stage = makeStage(root, settings, options);
   const reader = new Reader(
     stage,
     book,
@@ -93,13 +99,8 @@ export function mountBook(
     options.ownsPage ? firstPlace(book, settings) : (options.place ?? 1),
     kind,
   );
-  // The first page is loaded meanwhile, and a caller can listen before anything is told.
-  inNextFrame(() => {
-    if (taken.signal.aborted) return;
-    furnish(root, reader, say, options, taken.signal);
-    reader.start();
-  });
-  return given(reader);
+  furnishSoon(root, reader, say, options, taken.signal);
+  return mountedWith(reader);
 }
 
 function speak(root: HTMLElement, settings: Settings, { ownsPage }: MountOptions): Say {
@@ -109,23 +110,34 @@ function speak(root: HTMLElement, settings: Settings, { ownsPage }: MountOptions
   return sayIn(language.texts);
 }
 
+/** The first page is loaded meanwhile, and a caller can listen before anything is told. */
+function furnishSoon(root: HTMLElement, reader: Reader, say: Say, options: MountOptions, signal: AbortSignal): void {
+  inNextFrame(() => {
+    if (signal.aborted) return;
+    furnish(root, reader, say, options, signal);
+    reader.start();
+  });
+}
+
 let stageCount = 0;
 
 /** It has its size before the bars around it are made, because the book is laid out in it. */
-function makeStage(root: HTMLElement, { toolbar, shows }: Settings): HTMLElement {
+function makeStage(root: HTMLElement, { toolbar, shows }: Settings, { ownsPage }: MountOptions): HTMLElement {
   root.classList.toggle('no-bar', !toolbar);
   root.classList.toggle('no-foot', !shows.slider && !shows.pageField && !shows.dots);
   root.classList.toggle('no-turns', !shows.turnButtons);
   const stage = create('div', { className: 'stage', id: `leafcast-stage-${++stageCount}` });
-  root.replaceChildren(create('main', {}, stage));
+  // Inside another page the landmark is that page's, and a click must lead the keys to the book.
+  root.replaceChildren(create(ownsPage ? 'main' : 'div', { className: 'middle' }, stage));
+  if (!ownsPage) root.tabIndex = -1;
   return stage;
 }
 
-function furnish(root: HTMLElement, reader: Reader, say: Say, { ownsPage = false }: MountOptions, signal: AbortSignal): void {
+function furnish(root: HTMLElement, reader: Reader, say: Say, { ownsPage = false, folder }: MountOptions, signal: AbortSignal): void {
   const { settings, book } = reader;
   const status = create('p', { className: 'spoken', role: 'status', 'aria-live': 'polite' });
   const names = new PageNames(book.pages, say);
-  const texts = new BookTexts(book);
+  const texts = new BookTexts(book, filesIn(folder)('files/search/'));
   const ui: Ui = {
     root,
     reader,
@@ -141,14 +153,14 @@ function furnish(root: HTMLElement, reader: Reader, say: Say, { ownsPage = false
     announce: (text) => (status.textContent = text),
     signal,
   };
-  const main = root.querySelector('main')!;
+  const middle = root.querySelector('.middle')!;
   const tools = makeTools(ui);
   const stage = root.querySelector('.stage')!;
   root.prepend(skipLink(ui, stage.id), makeToolbar(ui, settings.title || document.title || say('pages'), tools));
   if (settings.shows.turnButtons) {
     const { back, on } = makeTurnButtons(ui);
-    main.prepend(back);
-    main.append(on);
+    middle.prepend(back);
+    middle.append(on);
   }
   root.append(...foot(ui), status);
   announcePages(ui);
@@ -186,7 +198,8 @@ function skipLink({ say, layer }: Ui, target: string): HTMLElement {
 function foot(ui: Ui): HTMLElement[] {
   const { slider, dots, pageField } = ui.reader.settings.shows;
   if (!slider && !dots && !pageField) return [];
-  const element = create('nav', { className: 'foot', 'aria-label': ui.say('finding') });
+  const [name, role] = ui.ownsPage ? (['nav', undefined] as const) : (['div', 'group'] as const);
+  const element = create(name, { className: 'foot', role, 'aria-label': ui.say('finding') });
   if (slider) element.append(makeSlider(ui));
   if (dots) element.append(makeDots(ui));
   if (pageField) element.append(makePageField(ui));

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 import type { PageLink, TextLine, WordBox } from './book.ts';
 import type { BookTexts } from './bookTexts.ts';
-import { create } from './dom.ts';
+import { create, putAt } from './dom.ts';
 import { icon } from './icons.ts';
-import type { Box } from './geometry.ts';
 import { makePageLink } from './pageLink.ts';
 import type { PageNames } from './pageNames.ts';
 import type { Reader } from './reader.ts';
@@ -125,6 +124,7 @@ export class PageLayer {
   }
 
   private addTexts(): void {
+    if (!this.element.isConnected) return; // taken off meanwhile
     for (const [place, page] of this.shown)
       if (page.element.dataset.text === undefined) {
         page.element.dataset.text = '';
@@ -253,15 +253,7 @@ function textUnder(link: PageLink, lines: readonly TextLine[]): string {
     .join(' ');
 }
 
-function putAt(element: HTMLElement, box: Box): void {
-  const { style } = element;
-  [style.left, style.top] = [`${box.x}px`, `${box.y}px`];
-  [style.width, style.height] = [`${box.width}px`, `${box.height}px`];
-}
-
 /** In fractions of the page. */
 function putInside(element: HTMLElement, [x, y, width, height]: WordBox): void {
-  const { style } = element;
-  [style.left, style.top] = [`${x * 100}%`, `${y * 100}%`];
-  [style.width, style.height] = [`${width * 100}%`, `${height * 100}%`];
+  putAt(element, { x: x * 100, y: y * 100, width: width * 100, height: height * 100 }, '%');
 }

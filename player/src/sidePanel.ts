@@ -39,7 +39,7 @@ export class SidePanel {
     const element = this.frame(title, content.element);
     this.open = { button, element, content, opener };
     button.setAttribute('aria-expanded', 'true');
-    this.root.querySelector('main')!.before(element);
+    this.root.querySelector('.middle')!.before(element);
     this.root.dataset.panel = 'open';
     content.shown?.();
     if (content.focus) content.focus();
@@ -84,7 +84,7 @@ export class SidePanel {
     const head = panelHead(title, this.say('close'), () => this.close());
     const element = create('aside', { className: 'panel', 'aria-label': title, tabIndex: -1 }, head, body);
     element.addEventListener('keydown', (event) => {
-      if (event.key !== 'Escape') return;
+      if (event.key !== 'Escape' || event.isComposing) return;
       event.stopPropagation();
       this.close();
     });

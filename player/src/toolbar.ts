@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 import { create } from './dom.ts';
+import { clamp } from './geometry.ts';
 import { onResize } from './onResize.ts';
 import { makeTool } from './tool.ts';
 import type { Ui } from './ui.ts';
@@ -13,10 +14,12 @@ const MOST_OF_TITLE = 0.34; // of the bar's width; more only where tools leave i
 
 /** Title, logo and tools. Tools that do not fit go into a menu at the end of the bar. */
 export function makeToolbar(ui: Ui, title: string, tools: readonly RankedTool[]): HTMLElement {
-  const heading = create('h1', { className: 'title' }, title);
-  if (!ui.reader.settings.toolbar) return create('header', { className: 'spoken' }, heading);
+  // Inside another page, landmarks and the first heading are that page's.
+  const [bar, level] = ui.ownsPage ? (['header', 'h1'] as const) : (['div', 'h2'] as const);
+  const heading = create(level, { className: 'title' }, title);
+  if (!ui.reader.settings.toolbar) return create(bar, { className: 'spoken' }, heading);
   const group = create('div', { className: 'tools', role: 'group', 'aria-label': ui.say('tools') });
-  const header = create('header', { className: 'bar' }, ...logo(ui), heading, group);
+  const header = create(bar, { className: 'bar' }, ...logo(ui), heading, group);
   const menu = new Menu(ui);
   let shown = -1;
   const fit = () => {
@@ -31,9 +34,9 @@ function roomFor(header: HTMLElement, wanted: number): number {
   const style = getComputedStyle(header);
   const tool = parseFloat(style.getPropertyValue('--tool')) || 40;
   const logoWidth = header.querySelector('.logo')?.clientWidth ?? 0;
-  const title = Math.min(header.querySelector('h1')!.scrollWidth + 32, header.clientWidth * MOST_OF_TITLE);
+  const title = Math.min(header.querySelector('.title')!.scrollWidth + 32, header.clientWidth * MOST_OF_TITLE);
   const free = header.clientWidth - parseFloat(style.paddingLeft) * 2 - logoWidth - title;
-  return Math.min(Math.max(Math.floor(free / tool), 1), wanted);
+  return clamp(Math.floor(free / tool), 1, wanted);
 }
 
 function spread(group: HTMLElement, menu: Menu, tools: readonly RankedTool[], room: number): void {

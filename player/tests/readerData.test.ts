@@ -30,7 +30,9 @@ test('the player reads what the writer writes', async () => {
 test('reader data that is switched off, of another version or damaged is left alone', () => {
   const config = { totalPageCount: 2, normalPath: 'files/page/' };
   const data = readData();
-  const damaged = [{ version: 1 }, { pages: undefined }, { pages: [null] }, { pages: [{ label: '1' }] }, { outline: {} }, { textStarts: undefined }];
+  const page = { label: '1', image: 'files/page/1.jpg', links: [] };
+  const pages = [undefined, [null], [{ label: '1' }], [{ ...page, label: '' }], [{ ...page, label: 1 }], [{ ...page, links: [null] }]];
+  const damaged = [{ version: 1 }, { outline: {} }, { textStarts: undefined }, ...pages.map((each) => ({ pages: each }))];
   const read = damaged.map((fault) => readBook({ ...config, readerData: 'YES' }, { ...data, ...fault } as unknown as BookData));
   for (const book of [readBook({ ...config, readerData: 'NO' }, data), ...read]) {
     assert.deepEqual(book.pages.map(({ image }) => image), ['files/page/1.jpg', 'files/page/2.jpg']);

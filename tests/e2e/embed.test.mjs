@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 import assert from 'node:assert/strict';
-import { readFileSync } from 'node:fs';
+import { cpSync, mkdirSync, readFileSync, writeFileSync } from 'node:fs';
 import { join } from 'node:path';
 import { after, before, describe, it } from 'node:test';
 import { pathToFileURL } from 'node:url';
 import { launchBrowser } from '../../tools/browser.mjs';
+import { faults } from './axe.mjs';
 import { changedBook, publishMagazine, removeBook, RESOURCES } from './support.mjs';
 
 const FRAME = `<!DOCTYPE html><title>host</title>
@@ -26,6 +27,18 @@ const ELEMENT = `<!DOCTYPE html><title>host</title><link rel="stylesheet" href="
   book.on('settled', (places) => told.push(places.join()));
 </script>`;
 
+/** Neither book lies where the page does; both are called bookData. */
+const TWO = `<!DOCTYPE html><html lang="en"><title>host</title><link rel="stylesheet" href="../style/player.css">
+<main><h1>Two books</h1><div id="one" style="width: 900px; height: 600px"></div><div id="other" style="width: 900px; height: 600px"></div></main>
+<script src="../flipBook.min.js"></script>
+<script src="../files/search/book.js"></script><script>const one = bookData;</script>
+<script src="second/files/search/book.js"></script><script>const other = bookData;</script>
+<script>
+  const show = (id, data, options) => leafcastBook.mount(document.getElementById(id), { readerData: 'YES' }, data, options);
+  show('one', one, { folder: '../' });
+  show('other', other, { folder: 'second', place: 2 });
+</script></html>`;
+
 describe('a book in another page', () => {
   let browser, book, page;
 
@@ -34,6 +47,11 @@ describe('a book in another page', () => {
     const script = readFileSync(join(RESOURCES, 'AppFiles/Templates/float/javascript/flipBook.min.js'), 'utf8');
     book = changedBook(published, { files: { 'frame.html': FRAME, 'element.html': ELEMENT, 'flipBook.min.js': script } });
     removeBook(published);
+    mkdirSync(join(book, 'deeper'));
+    writeFileSync(join(book, 'deeper/two.html'), TWO);
+    const second = publishMagazine('--pages', '3-6');
+    cpSync(second, join(book, 'deeper/second'), { recursive: true });
+    removeBook(second);
     browser = await launchBrowser();
     page = await browser.newPage({ viewport: { width: 1000, height: 700 } });
   });
@@ -76,6 +94,24 @@ describe('a book in another page', () => {
     await told('2,3');
     assert.equal(await page.evaluate(() => document.activeElement.tagName), 'BODY', 'nobody asked for the focus');
     assert.equal(await page.evaluate(() => location.hash + document.documentElement.lang), '');
+  });
+
+  it('hears keys once it was clicked', async () => {
+    await open('element.html');
+    await told('4,5');
+    await page.mouse.click(450, 300);
+    await page.keyboard.press('ArrowRight');
+    await told('6,7');
+  });
+
+  it('shows two books from their own folders, without a fault that axe finds', async () => {
+    await open('deeper/two.html');
+    await page.waitForFunction(() => document.querySelectorAll('.side[data-drawn]:not([hidden], [data-drawn=""])').length === 3);
+    await page.waitForFunction(() => document.querySelectorAll('.spoken[lang]').length === 3);
+    const [one, other] = await page.locator('.leafcast').evaluateAll((books) => books.map((each) => each.querySelector('.pages').textContent));
+    assert.match(one, /HORNBEAM/i);
+    assert.notEqual(one, other);
+    assert.deepEqual(await faults(page), []);
   });
 
   it('hears keys that come while its leaves fly', async () => {
