@@ -8,6 +8,7 @@ export const hashOf = (place: number): string => `#page/${place}`;
 
 export function placeOfHash(hash: string, labels: readonly string[]): number | undefined {
   const name = decoded(/^#page\/(.+)$/.exec(hash)?.[1] ?? '').toLowerCase();
+  if (name === '') return undefined;
   const place = /^\d+$/.test(name) ? Number(name) : labels.findIndex((label) => label.toLowerCase() === name) + 1;
   return place >= 1 && place <= labels.length ? place : undefined;
 }

@@ -17,7 +17,7 @@ export function listenToKeys(ui: Ui, target: HTMLElement | Document, openSearch:
 }
 
 function answer(event: KeyboardEvent, actions: Actions): void {
-  if (event.defaultPrevented || event.altKey || event.ctrlKey || event.metaKey || isField(event.target)) return;
+  if (event.defaultPrevented || event.isComposing || event.altKey || event.ctrlKey || event.metaKey || isField(event.target)) return;
   // Lists and long texts scroll and choose by the same keys, and dialogs close themselves.
   if (event.target instanceof Element && event.target.closest('dialog, .panel, .menu')) return;
   const action = actions[keyName(event)];

@@ -85,7 +85,11 @@ async function printPages(
   const missing = pages.filter((_, at) => !pictures[at]).map(({ label }) => label);
   if (closed.aborted || missing.length === pages.length) return missing;
   const takeAway = putOnPaper(pictures.flatMap((picture) => picture ?? []));
-  const printed = new Promise((resolve) => window.addEventListener('afterprint', resolve, { once: true }));
+  // Where nothing can be printed nothing is told either.
+  const printed = new Promise((resolve) => {
+    window.addEventListener('afterprint', resolve, { once: true });
+    closed.addEventListener('abort', resolve, { once: true });
+  });
   window.print();
   await printed;
   takeAway();

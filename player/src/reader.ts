@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 import type { Book } from './book.ts';
 import { Emitter } from './emitter.ts';
+import { clamp } from './geometry.ts';
 import type { Mode } from './layout.ts';
 import type { Settings } from './settings.ts';
 import type { PlacedPage } from './sharpView.ts';
@@ -168,6 +169,6 @@ export class Reader extends Emitter<ReaderEvents> {
   }
 
   private within(place: number): number {
-    return Math.min(Math.max(Math.round(place) || 1, 1), Math.max(this.pageCount, 1));
+    return clamp(Math.round(place) || 1, 1, Math.max(this.pageCount, 1));
   }
 }

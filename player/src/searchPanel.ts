@@ -25,6 +25,7 @@ class SearchPanel {
   private readonly more: HTMLButtonElement;
   readonly element: HTMLElement;
   private readonly hits: Hit[] = [];
+  private chosen: Hit | undefined;
   private run = 0; // of the search that is under way; older ones stop
   private wanted = HITS_AT_ONCE;
   private timer = 0;
@@ -42,7 +43,9 @@ class SearchPanel {
     const form = create('form', { role: 'search', className: 'search' }, this.field, this.count);
     form.addEventListener('submit', (event) => {
       event.preventDefault();
-      void this.search().then(() => this.list.querySelector('button')?.focus());
+      void this.search().then((isDone) => {
+        if (isDone && document.activeElement === this.field) this.list.querySelector('button')?.focus();
+      });
     });
     this.field.addEventListener('input', () => {
       clearTimeout(this.timer);
@@ -61,22 +64,26 @@ class SearchPanel {
     this.field.select();
   }
 
-  private async search(): Promise<void> {
+  /** Answers whether it came to its end. */
+  private async search(): Promise<boolean> {
     clearTimeout(this.timer);
     const run = ++this.run;
     this.changed(this.field.value);
     this.hits.length = 0;
+    this.chosen = undefined;
     this.wanted = HITS_AT_ONCE;
     this.list.replaceChildren();
     this.show();
     const pause = pauseNowAndThen();
     for await (const hits of search(this.field.value, this.ui.texts.all())) {
-      if (this.isOver(run)) return;
+      if (this.isOver(run)) return false;
       this.hits.push(...hits);
       if (hits.length > 0) this.show();
       await pause();
     }
-    if (!this.isOver(run)) this.tell();
+    if (this.isOver(run)) return false;
+    this.tell();
+    return true;
   }
 
   /** Another query was typed, or the panel was left. */
@@ -90,7 +97,7 @@ class SearchPanel {
     const found = length === 0 ? say('noHits') : length === 1 ? say('hit') : say('hits', length);
     this.count.textContent = this.field.value.trim() ? found : '';
     announce(this.count.textContent);
-    layer.mark(this.hits);
+    layer.mark(this.hits, this.chosen);
   }
 
   private show(): void {
@@ -121,6 +128,7 @@ class SearchPanel {
     button.addEventListener('click', () => {
       this.list.querySelector('[aria-current]')?.removeAttribute('aria-current');
       button.setAttribute('aria-current', 'true');
+      this.chosen = hit;
       layer.mark(this.hits, hit);
       panel.makeWay();
       reader.goTo(hit.place, hit.boxes[0]?.[1]);

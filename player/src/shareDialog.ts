@@ -8,8 +8,11 @@ import type { Ui } from './ui.ts';
 export function openShareDialog(ui: Ui): void {
   const { say, reader } = ui;
   const address = addressOf(reader.settings.shareAddress, reader.place);
-  const form = create('div', { className: 'form' }, copyField(ui, say('shareAddress'), address));
-  if (/^https?:/i.test(address)) form.append(copyField(ui, say('shareEmbed'), snippet(address, document.title)));
+  // While a modal dialog is open, nothing outside it is there for screen readers.
+  const status = create('p', { className: 'spoken', role: 'status' });
+  const announce = (text: string) => (status.textContent = text);
+  const form = create('div', { className: 'form' }, status, copyField(ui, announce, say('shareAddress'), address));
+  if (/^https?:/i.test(address)) form.append(copyField(ui, announce, say('shareEmbed'), snippet(address, document.title)));
   else form.append(create('p', { className: 'note' }, say('shareLocal')));
   if ('share' in navigator) form.append(nativeShare(say('shareWith'), address));
   openDialog(ui, say('share'), form);
@@ -29,7 +32,7 @@ export const snippet = (address: string, title: string): string =>
 
 const escaped = (text: string): string => text.replace(/&/g, '&amp;').replace(/"/g, '&quot;').replace(/</g, '&lt;');
 
-function copyField({ say, announce }: Ui, label: string, text: string): HTMLElement {
+function copyField({ say }: Ui, announce: (text: string) => void, label: string, text: string): HTMLElement {
   const field = create('input', { type: 'text', className: 'field', readOnly: true, value: text });
   const copy = create('button', { type: 'button', className: 'plain' }, say('copy'));
   field.addEventListener('focus', () => field.select());

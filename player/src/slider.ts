@@ -24,6 +24,7 @@ export function makeSlider({ reader, say, names, thumbnails }: Ui): HTMLElement 
   let shown = 1;
 
   const show = (places: readonly number[]) => {
+    if (byPointer) return; // it is where the pointer holds it
     // At the end of the book the slider is at its end too.
     shown = places.includes(reader.pageCount) ? reader.pageCount : (places[0] ?? 1);
     range.value = String(shown);
@@ -31,7 +32,15 @@ export function makeSlider({ reader, say, names, thumbnails }: Ui): HTMLElement 
   };
   reader.on('turned', show);
   reader.on('settled', show);
-  range.addEventListener('pointerdown', () => (byPointer = true));
+  const letGo = () => {
+    byPointer = false;
+    show(reader.places);
+  };
+  range.addEventListener('pointerdown', ({ pointerId }) => {
+    byPointer = true;
+    range.setPointerCapture(pointerId); // it is heard of then wherever it is let go
+  });
+  for (const name of ['click', 'pointercancel', 'keydown']) range.addEventListener(name, letGo);
   range.addEventListener('pointermove', (event) => bubble.show(placeUnder(range, event.clientX)));
   range.addEventListener('pointerleave', () => bubble.hide());
   range.addEventListener('blur', () => bubble.hide());
@@ -44,7 +53,7 @@ export function makeSlider({ reader, say, names, thumbnails }: Ui): HTMLElement 
     if (byPointer) reader.goTo(place);
     else stepTo(reader, place, shown);
     if (byPointer) bubble.hide();
-    byPointer = false;
+    letGo();
   });
   return element;
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-import { create } from './dom.ts';
+import { create, putAt } from './dom.ts';
+import { clamp } from './geometry.ts';
 import { onResize } from './onResize.ts';
 import type { PanelContent } from './sidePanel.ts';
 import type { Ui } from './ui.ts';
@@ -41,7 +42,10 @@ class Overview {
       onResize(this.element, () => this.element.isConnected && this.show()),
       ui.reader.on('turned', () => this.markOpenPages()),
     ];
-    this.leave = () => stops.forEach((stop) => stop());
+    this.leave = () => {
+      stops.forEach((stop) => stop());
+      ui.signal.removeEventListener('abort', this.leave);
+    };
     ui.signal.addEventListener('abort', this.leave);
   }
 
@@ -87,7 +91,13 @@ class Overview {
     this.markOpenPages();
   }
 
+  private get firstInSight(): number {
+    const { columns, height } = this.grid;
+    return Math.ceil(this.element.scrollTop / (height + GAP)) * columns + 1;
+  }
+
   private drop(place: number, cell: HTMLElement): void {
+    cell.querySelector('canvas')!.width = 0; // frees the pixels at once
     cell.remove();
     this.cells.delete(place);
   }
@@ -118,18 +128,17 @@ class Overview {
     const { columns, width, height } = this.grid;
     const column = (place - 1) % columns;
     const fromEnd = this.ui.reader.settings.rightToLeft ? columns - 1 - column : column;
-    const { style } = cell;
-    [style.width, style.height] = [`${width}px`, `${height}px`];
-    [style.left, style.top] = [`${fromEnd * (width + GAP)}px`, `${this.topOf(place)}px`];
+    putAt(cell, { x: fromEnd * (width + GAP), y: this.topOf(place), width, height });
   }
 
   private markOpenPages(): void {
     const { places } = this.ui.reader;
     const reached = this.list.contains(document.activeElement) ? document.activeElement : undefined;
+    const stop = this.cells.has(places[0] ?? 0) ? places[0] : this.firstInSight;
     for (const [place, cell] of this.cells) {
       const button = cell.querySelector('button')!;
       button.setAttribute('aria-current', places.includes(place) ? 'page' : 'false');
-      button.tabIndex = (reached ? button === reached : place === places[0]) ? 0 : -1;
+      button.tabIndex = (reached ? button === reached : place === stop) ? 0 : -1;
     }
   }
 
@@ -150,7 +159,7 @@ class Overview {
     if (!here || step === undefined) return;
     event.preventDefault();
     event.stopPropagation();
-    this.focus(Math.min(Math.max(here + step, 1), pageCount));
+    this.focus(clamp(here + step, 1, pageCount));
     this.markOpenPages();
   }
 }

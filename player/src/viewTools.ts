@@ -71,7 +71,7 @@ export function makeMotionSwitch({ reader, say }: Ui): HTMLButtonElement {
 export const canBeFullScreen = (): boolean => document.fullscreenEnabled === true;
 
 export function toggleFullScreen(root: HTMLElement): void {
-  const change = document.fullscreenElement ? document.exitFullscreen() : root.requestFullscreen();
+  const change = document.fullscreenElement === root ? document.exitFullscreen() : root.requestFullscreen();
   change.catch(() => {}); // the browser may refuse, and says so itself
 }
 
@@ -79,7 +79,7 @@ export function makeFullScreen({ root, say, signal }: Ui): HTMLButtonElement {
   const tool = makeTool('fullScreen', say('fullScreen'), () => toggleFullScreen(root));
   setPressed(tool, false);
   const show = () => {
-    const isFull = document.fullscreenElement !== null;
+    const isFull = document.fullscreenElement === root;
     setPressed(tool, isFull);
     changeTool(tool, isFull ? 'window' : 'fullScreen', say('fullScreen'));
   };

@@ -22,6 +22,7 @@ test('labels are found in any case and encoding, and numbers are places', () => 
 });
 
 test('an address that names no page of the book names none', () => {
+  assert.equal(placeOfHash('', ['', 'ii']), undefined);
   for (const hash of [
     '',
     '#',

@@ -23,6 +23,7 @@ test('the open chapter is the last and deepest one that starts before the page e
   assert.equal(path(7), 'Part one / Apples / Sorts');
   assert.equal(path(8), 'Part two / Pears');
   assert.deepEqual(pathTo([item('Later', 4)], 2), []);
+  assert.equal(pathTo([{ title: 'Alone', place: 1 } as OutlineItem], 2).length, 1);
 });
 
 test('what is shared leads to the page, whatever stood behind the address', () => {

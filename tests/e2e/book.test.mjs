@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
+import { join } from 'node:path';
 import { after, afterEach, before, describe, it } from 'node:test';
 import { launchBrowser } from '../../tools/browser.mjs';
 import { changedBook, openBook, openPages, publishMagazine, removeBook, scriptWith, stays, turnWith } from './support.mjs';
@@ -30,9 +32,9 @@ describe('a published book', () => {
 
   const open = (options) => openBook(browser, book, options);
 
-  function openChanged(changes) {
+  function openChanged(changes, options) {
     books.push(changedBook(book, changes));
-    return openBook(browser, books.at(-1));
+    return openBook(browser, books.at(-1), options);
   }
 
   it('opens at its cover, with its title, without a request that leaves the folder', async () => {
@@ -143,6 +145,88 @@ describe('a published book', () => {
     assert.ok(await page.locator('.mark').count() > 1);
     await page.keyboard.press('Escape');
     assert.equal(await page.locator('.mark, .panel').count(), 0);
+  });
+
+  it('leaves the focus alone when a search ends that its reader has left', async () => {
+    const text = readFileSync(join(book, 'files/search/text-1.js'), 'utf8');
+    // The text cannot be had when the book is opened, and comes late to the search.
+    const files = { 'files/search/text-1.js': '', 'files/search/late-1.js': text };
+    const page = await openChanged({ files }, { hash: '#page/4' });
+    await openPages(page);
+    await page.waitForFunction(() => document.querySelector('.page').dataset.text === '' && !document.querySelector('script[src*="text-"]'));
+    await page.evaluate(() => {
+      window.late = [];
+      document.head.append = (script) => {
+        script.src = script.src.replace('text-1', 'late-1');
+        window.late.push(script);
+      };
+    });
+    await page.keyboard.press('/');
+    await page.keyboard.type('anthocyanins');
+    await page.keyboard.press('Enter');
+    await page.keyboard.press('Tab');
+    const focused = await page.evaluateHandle(() => document.activeElement);
+    await page.evaluate(() => Element.prototype.append.call(document.head, ...window.late));
+    await page.locator('.mark').first().waitFor({ state: 'attached' });
+    assert.equal(await page.evaluate((before) => document.activeElement === before, focused), true);
+    await page.locator('.query').press('Enter');
+    await page.waitForFunction(() => document.activeElement.closest('.hits'));
+  });
+
+  it('keeps nothing of the overview when that is closed', async () => {
+    const page = await open();
+    await openPages(page);
+    await page.evaluate(() => {
+      window.listeners = new Map(); // by signal
+      for (const [name, step] of [['addEventListener', 1], ['removeEventListener', -1]]) {
+        const known = AbortSignal.prototype[name];
+        AbortSignal.prototype[name] = function (...given) {
+          window.listeners.set(this, (window.listeners.get(this) ?? 0) + step);
+          return known.apply(this, given);
+        };
+      }
+    });
+    const tool = page.getByRole('button', { name: 'Page overview' });
+    for (const state of ['attached', 'detached', 'attached', 'detached']) {
+      await tool.click();
+      await page.locator('.thumbnails').waitFor({ state });
+    }
+    // Each picture that was loaded has a signal of its own.
+    assert.ok(await page.evaluate(() => Math.max(...window.listeners.values())) < 2);
+  });
+
+  it('tells in the contents which chapter lies open, also after a turn', async () => {
+    const page = await open();
+    await openPages(page);
+    await page.getByRole('button', { name: 'Contents' }).click();
+    const current = () => page.locator('.contents [aria-current]').allTextContents();
+    const before = await current();
+    await page.locator('.stage').click({ position: { x: 5, y: 5 } });
+    await page.locator('.next').click();
+    for (let turn = 0; turn < 3; turn++) await turnWith(page, () => page.locator('.next').click());
+    const after = await current();
+    assert.deepEqual([before.length, after.length], [1, 1]);
+    assert.notDeepEqual(after, before);
+  });
+
+  it('jumps to where the slider is let go, whatever turns meanwhile', async () => {
+    const page = await open();
+    await openPages(page);
+    await turnWith(page, () => page.keyboard.press('End'));
+    const slider = page.getByRole('slider');
+    const { x, y, width, height } = await slider.boundingBox();
+    await page.mouse.move(x + width - 9, y + height / 2);
+    await page.mouse.down();
+    await page.mouse.move(x + width / 2, y + height / 2, { steps: 3 });
+    const held = await slider.inputValue();
+    await turnWith(page, () => page.goBack());
+    assert.equal(await slider.inputValue(), held);
+    await turnWith(page, () => page.mouse.up());
+    assert.ok((await openPages(page)).includes(Number(held)));
+    await page.mouse.click(x + width / 2, y + height / 2);
+    const entries = await page.evaluate(() => history.length);
+    await turnWith(page, () => slider.press('ArrowRight'));
+    assert.equal(await page.evaluate(() => history.length), entries, 'a key is no jump');
   });
 
   it('has no edges of other pages when it has one page', async () => {
