@@ -210,7 +210,9 @@ describe('the book for everyone', () => {
     await turnWith(page, () => page.keyboard.press('ArrowRight'));
     await turnWith(page, () => page.keyboard.press('Home'));
     await turnWith(page, () => page.keyboard.press('End'));
+    const { height } = await page.locator('.page').boundingBox();
     await page.setViewportSize({ width: 1200, height: 700 });
+    await page.waitForFunction((before) => document.querySelector('.page').getBoundingClientRect().height < before, height);
     await openPages(page);
     assert.deepEqual(await page.evaluate(() => window.said),
       ['Pages 6 and 7 of 16', 'Page Cover, 1 of 16', 'Page Back, 16 of 16']);

@@ -61,9 +61,13 @@ describe('a book in Firefox', () => {
       try {
         await open(`${pathToFileURL(other).href}/`, '#page/4');
         const isAt = (place) => page.waitForFunction((hash) => location.hash === hash, {}, `#page/${place}`);
-        for (const [key, place] of [['End', 16], ['Home', 1], ['PageDown', template === 'slide' ? 2 : 1]]) {
+        for (const [key, place] of [['End', 16], ['Home', 1], ...(template === 'slide' ? [['PageDown', 2]] : [])]) {
           await page.keyboard.press(key);
           await isAt(place);
+        }
+        if (template === 'scroll') {
+          await page.keyboard.press('PageDown');
+          await page.waitForFunction(() => document.querySelector('.stage').scrollTop > 100);
         }
         await page.goBack();
         await isAt(16);

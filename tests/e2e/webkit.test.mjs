@@ -35,7 +35,7 @@ const isLeafDrawn = () => {
 };
 const boxOf = (selector) => document.querySelector(selector).getBoundingClientRect().toJSON();
 
-describe('a book in WebKit', { timeout: 40_000 }, () => {
+describe('a book in WebKit', () => {
   let browser, book, server;
 
   before(async () => {
