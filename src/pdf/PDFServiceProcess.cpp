@@ -62,9 +62,11 @@ std::optional<PDFServiceAnswer> PDFServiceProcess::start(const PDFServiceLimits&
         = ResourceFolder::helperProgram(u"leafcast-pdf"_s, "LEAFCAST_PDF_SERVICE");
     if (program.isEmpty())
         return notStarted(Sentences::tr("the program leafcast-pdf is missing"));
-    iChannel = LineChannel(iChild.start(program,
-        { u"--memory-limit"_s, QString::number(limits.memoryMebibytes), u"--page-seconds"_s,
-            QString::number(limits.pageSeconds) }));
+    QStringList arguments = { u"--memory-limit"_s, QString::number(limits.memoryMebibytes),
+        u"--page-seconds"_s, QString::number(limits.pageSeconds) };
+    if (limits.niceness > 0)
+        arguments += { u"--nice"_s, QString::number(limits.niceness) };
+    iChannel = LineChannel(iChild.start(program, arguments));
     iHasAnswered = false;
     if (iChannel.isOpen())
         return std::nullopt;

@@ -48,6 +48,8 @@ namespace {
 void Limits::apply() const
 {
     limit(RLIMIT_CORE, 0);
+    if (niceness > 0)
+        setpriority(PRIO_PROCESS, 0, getpriority(PRIO_PROCESS, 0) + niceness);
 #ifndef __SANITIZE_ADDRESS__ // its shadow memory alone takes terabytes of address space
     limit(RLIMIT_AS, static_cast<rlim_t>(memoryMebibytes) << 20U);
 #endif

@@ -7,6 +7,7 @@ namespace leafcast::service {
 struct Limits {
     int memoryMebibytes = 1024; // address space
     int pageSeconds = 30; // processor time of one request
+    int niceness = 0; // is added to that of whoever started it
 
     void apply() const;
 };

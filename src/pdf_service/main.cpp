@@ -20,14 +20,20 @@ bool readNumber(const char* text, int& number)
     return true;
 }
 
+int* limitNamed(const char* option, Limits& limits)
+{
+    if (std::strcmp(option, "--memory-limit") == 0)
+        return &limits.memoryMebibytes;
+    if (std::strcmp(option, "--page-seconds") == 0)
+        return &limits.pageSeconds;
+    return std::strcmp(option, "--nice") == 0 ? &limits.niceness : nullptr;
+}
+
 bool readArguments(char** argument, Limits& limits)
 {
     for (++argument; *argument != nullptr; argument += 2) {
-        const bool memory = std::strcmp(*argument, "--memory-limit") == 0;
-        const bool seconds = std::strcmp(*argument, "--page-seconds") == 0;
-        if (!memory && !seconds)
-            return false;
-        if (!readNumber(argument[1], memory ? limits.memoryMebibytes : limits.pageSeconds))
+        int* const number = limitNamed(*argument, limits);
+        if (number == nullptr || !readNumber(argument[1], *number))
             return false;
     }
     return true;
@@ -39,7 +45,8 @@ int main(int, char** argv)
 {
     Limits limits;
     if (!readArguments(argv, limits)) {
-        std::fputs("usage: leafcast-pdf [--memory-limit MIB] [--page-seconds S]\n", stderr);
+        std::fputs(
+            "usage: leafcast-pdf [--memory-limit MIB] [--page-seconds S] [--nice N]\n", stderr);
         return 2;
     }
     limits.apply();

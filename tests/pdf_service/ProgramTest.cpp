@@ -3,6 +3,7 @@
 #include "support/PDFBuilder.h"
 #include "support/TestFiles.h"
 
+#include <algorithm>
 #include <csignal>
 #include <QDeadlineTimer>
 #include <QJsonDocument>
@@ -10,6 +11,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QThread>
+#include <sys/resource.h>
 
 using namespace leafcast;
 using namespace Qt::StringLiterals;
@@ -83,6 +85,20 @@ TEST_F(PDFServiceProgram, AnswersEachLineButOneTooLongAndEndsWithItsInput)
     EXPECT_EQ(result.answers[2].value(u"error").toString(), u"request"_s);
     EXPECT_EQ(result.answers[3].value(u"error").toString(), u"request"_s);
     EXPECT_EQ(result.answers[4].value(u"id").toInt(), 5);
+}
+
+TEST_F(PDFServiceProgram, StepsBackBehindOtherProgramsWhenItIsTold)
+{
+    QProcess service;
+    service.start(Program, { u"--nice"_s, u"7"_s });
+    service.write("{\"id\":1}\n");
+    ASSERT_TRUE(service.waitForReadyRead());
+    const int own = getpriority(PRIO_PROCESS, 0);
+    const int most = 19;
+    EXPECT_EQ(
+        getpriority(PRIO_PROCESS, static_cast<id_t>(service.processId())), std::min(own + 7, most));
+    service.closeWriteChannel();
+    EXPECT_TRUE(service.waitForFinished());
 }
 
 TEST_F(PDFServiceProgram, EndsItselfWhenAPageTakesTooMuchTime)

@@ -23,6 +23,7 @@ namespace {
 
     constexpr qint32 importDPI = 144;
     constexpr int margin = 16;
+    constexpr int workerNiceness = 10; // the window answers while every core draws pages
     constexpr int typingPauseMilliseconds = 300;
 
     /// In points, truncated; 0 x 0 when there is none.
@@ -194,7 +195,8 @@ void ImportWindowDelegate::startImport()
     iQueue.letGo(std::move(iImportPDF));
     iImportPDF = std::make_shared<ImportPDFOperation>(iForm->txtImportFile->text(), range,
         importDPI, qualityOfLevel(iSettings.importQualityLevel()),
-        PDFImportOptions{ .password = iForm->txtPassword->text() });
+        PDFImportOptions{
+            .password = iForm->txtPassword->text(), .limits = { .niceness = workerNiceness } });
     iImportPDF->setImportLinks(iSettings.importLinks() == 1);
     iImportPDF->setImportBookmarks(iSettings.importBookmark() == 1);
     LOG_DEBUG("ImportWindowDelegate", u"before add operation"_s);
