@@ -2,7 +2,7 @@
 # The front door. Each target sets up what it needs first; a second run finds it there.
 SHELL := /bin/bash
 .DEFAULT_GOAL := help
-.PHONY: help demo app test asan bench bench-player samples shots screenshots guide golden lint format install package clean
+.PHONY: help demo app test asan fuzz bench bench-player samples shots screenshots guide golden lint format install package clean
 
 DEMO_BOOK := build/demo-book
 PREFIX ?= /usr/local
@@ -30,6 +30,11 @@ test: ## Set up, build and run every test
 	@tools/build dev
 	@ctest --preset dev --parallel $$(nproc)
 	@LEAFCAST="$(CURDIR)/build/dev/bin/leafcast" npm test --silent
+
+fuzz: ## Run each fuzz target for a minute, or for FUZZ_SECONDS
+	@tools/setup lint
+	@tools/build fuzz
+	@tools/fuzz
 
 asan: ## Run the unit tests under the address and undefined behaviour sanitizers
 	@tools/setup test
