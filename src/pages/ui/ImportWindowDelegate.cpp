@@ -23,7 +23,7 @@ namespace {
 
     constexpr qint32 importDPI = 144;
     constexpr int margin = 16;
-    constexpr int workerNiceness = 10; // the window answers while every core draws pages
+    constexpr int workerNiceness = 19; // the window answers while every core draws pages
     constexpr int typingPauseMilliseconds = 300;
 
     /// In points, truncated; 0 x 0 when there is none.
